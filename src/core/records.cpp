@@ -1,0 +1,129 @@
+#include "core/records.hpp"
+
+#include "core/numbers.hpp"
+
+namespace kolvar {
+namespace {
+
+bool is_blank(char c) { return c == ' ' || c == '\t'; }
+bool is_line_end(char c) { return c == '\r' || c == '\n'; }
+
+}  // namespace
+
+RecordReader::RecordReader(std::string text, std::string path) : text_(std::move(text)), path_(std::move(path)) {
+    end_ = text_.size();
+    while (end_ > 0 && (is_blank(text_[end_ - 1]) || is_line_end(text_[end_ - 1]))) --end_;
+}
+
+void RecordReader::fail_here(FaultKind kind, std::string offending) const {
+    fail(kind, path_, line_, std::move(offending));
+}
+
+bool RecordReader::at_end() { return at_ >= end_ && !after_comma_; }
+
+void RecordReader::end_line() {
+    if (text_[at_] == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n') ++at_;
+    ++at_;
+    ++line_;
+}
+
+std::string RecordReader::line() {
+    if (at_ >= text_.size()) fail_here(FaultKind::end_of_file);
+    const std::size_t from = at_;
+    while (at_ < text_.size() && !is_line_end(text_[at_])) ++at_;
+    std::string out = text_.substr(from, at_ - from);
+    if (at_ < text_.size()) end_line();
+    after_comma_ = false;
+    return out;
+}
+
+Value RecordReader::field() {
+    if (at_end()) fail_here(FaultKind::end_of_file);
+    after_comma_ = false;
+    while (at_ < text_.size() && is_blank(text_[at_])) ++at_;
+    return at_ < text_.size() && text_[at_] == '"' ? quoted_field() : bare_field();
+}
+
+Value RecordReader::quoted_field() {
+    const std::size_t from = ++at_;
+    const std::size_t closing = text_.find('"', from);
+    if (closing == std::string::npos) fail_here(FaultKind::end_of_file, text_.substr(from, 80));
+    while (at_ < closing) {
+        if (is_line_end(text_[at_])) {
+            end_line();
+        } else {
+            ++at_;
+        }
+    }
+    // Whatever stands between the closing quote and the comma belongs to no field.
+    at_ = closing + 1;
+    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+    Value out(text_.substr(from, closing - from));
+    if (at_ < text_.size() && text_[at_] == ',') {
+        ++at_;
+        after_comma_ = true;
+    } else if (at_ < text_.size()) {
+        end_line();
+    }
+    return out;
+}
+
+Value RecordReader::bare_field() {
+    const std::size_t from = at_;
+    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+    const std::string_view held = trimmed(std::string_view(text_).substr(from, at_ - from));
+    Value out;
+    if (held == "#TRUE#") {
+        out = -1;
+    } else if (held == "#FALSE#") {
+        out = 0;
+    } else if (!held.empty()) {
+        const LeadingNumber read = leading_number(held);
+        if (read.length != held.size()) {
+            out = std::string(held);
+        } else if (read.too_large) {
+            fail_here(FaultKind::overflow, std::string(held.substr(0, 80)));
+        } else {
+            out = read.number;
+        }
+    }
+    if (at_ < text_.size() && text_[at_] == ',') {
+        ++at_;
+        after_comma_ = true;
+    } else if (at_ < text_.size()) {
+        end_line();
+    }
+    return out;
+}
+
+std::string RecordReader::text_field() { return field().text(); }
+
+double RecordReader::number_field() {
+    const int line = line_;
+    const Value held = field();
+    if (!held.is_text()) return held.number();
+    const std::string text = held.text();
+    const LeadingNumber read = leading_number(text);
+    if (read.too_large) fail(FaultKind::overflow, path_, line, text.substr(0, 80));
+    return read.number;
+}
+
+RecordWriter& RecordWriter::field(const Value& value) {
+    if (!first_) bytes_ += ',';
+    first_ = false;
+    if (value.is_text()) {
+        bytes_ += '"';
+        for (const char c : value.text()) bytes_ += c == '"' ? '\'' : c;
+        bytes_ += '"';
+    } else if (!value.is_unset()) {
+        bytes_ += decimal(value.number());
+    }
+    return *this;
+}
+
+void RecordWriter::end_record() {
+    bytes_ += "\r\n";
+    first_ = true;
+}
+
+}  // namespace kolvar

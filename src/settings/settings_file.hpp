@@ -1,0 +1,21 @@
+// The settings file: everything that the internal-standard path remembers between runs.
+#pragma once
+
+#include <string>
+
+#include "core/platform.hpp"
+#include "core/run_state.hpp"
+
+namespace kolvar {
+
+// Reads the 183 lines by their position and derives IS1name..IS3err, BlankFromData, DwellFromFile, LinearView. A fault
+// shows a warning; what was read stays and nothing is derived.
+void ReadSettings(RunState& rs, Platform& os, const std::string& path);
+
+// Writes to SetFilePath; asks before it overwrites; reports its own faults.
+void WriteSettings(RunState& rs, Platform& os);
+
+// The save dialog for a settings file, then WriteSettings. A cancelled dialog writes to the proposed name.
+void save_settings_as(RunState& rs, Platform& os);
+
+}  // namespace kolvar

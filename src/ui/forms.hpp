@@ -1,0 +1,39 @@
+// All windows of the program.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ui/forms/frm1_settings.hpp"
+#include "ui/forms/frm2_time.hpp"
+#include "ui/forms/frm3_matrix.hpp"
+#include "ui/forms/frm4_output.hpp"
+#include "ui/forms/reports.hpp"
+
+namespace kolvar {
+
+struct Forms {
+    Frm1Settings frm1_Settings;
+    Frm2Time frm2_Time;
+    Frm3Matrix frm3_Matrix;
+    Frm4Output frm4_Output;
+    Frm5Preview frm5_Preview;
+    FrmDwell frm_Dwell;
+    FrmMissingIso frm_MissingIso;
+    FrmOmit frm_Omit;
+    FrmChoseDir frm_ChoseDir;
+    FrmAverConc frm_AverConc;
+
+    [[nodiscard]] std::vector<Form*> all() {
+        return {&frm1_Settings, &frm2_Time,      &frm3_Matrix, &frm4_Output,  &frm5_Preview,
+                &frm_Dwell,     &frm_MissingIso, &frm_Omit,    &frm_ChoseDir, &frm_AverConc};
+    }
+    // nullptr when there is no window of this name.
+    [[nodiscard]] Form* find(const std::string& name) {
+        for (Form* form : all())
+            if (form->name == name) return form;
+        return nullptr;
+    }
+};
+
+}  // namespace kolvar
