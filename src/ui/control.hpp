@@ -53,6 +53,7 @@ struct Control {
     std::optional<Colour> back, fore;
     int left = 0, top = 0, width = 0, height = 0;  // twips, where the logic places the control
     bool placed = false;                           // the logic has placed it; else the layout does
+    bool sized_by_hand = false;                    // a plot that was given its size; the window's rules leave it alone
     int group = 0;                                 // options of one window and group exclude each other
     bool editable = false;                         // a list whose field can be typed into
     bool locked = false;                           // an entry that shows and refuses typing

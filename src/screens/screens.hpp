@@ -1,0 +1,17 @@
+// Binds the handlers of every window to the dispatcher.
+#pragma once
+
+#include "screens/program.hpp"
+
+namespace kolvar {
+
+void connect_screens(Program& program);
+
+// One for each window or group of windows; connect_screens calls them all.
+void connect_settings_window(Program& program);
+void connect_report_windows(Program& program);
+void connect_time_window(Program& program);
+void connect_matrix_window(Program& program);
+void connect_output_windows(Program& program);
+
+}  // namespace kolvar
