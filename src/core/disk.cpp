@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "core/fault.hpp"
 #include "core/files.hpp"
 
 namespace kolvar {

@@ -58,7 +58,8 @@ Digits digits_of(double number) {
     Digits out;
     if (number == 0.0) return out;
     std::array<char, 32> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific);
+    const auto written =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific);
     const char* at = buffer.data();
     if (*at == '-') {
         out.negative = true;
@@ -91,7 +92,8 @@ void round_digits(Digits& number, int decimals, Half half) {
     number.count = std::max(keep, 0);
     if (up) {
         int i = number.count - 1;
-        while (i >= 0 && number.digit[static_cast<std::size_t>(i)] == '9') number.digit[static_cast<std::size_t>(i--)] = '0';
+        while (i >= 0 && number.digit[static_cast<std::size_t>(i)] == '9')
+            number.digit[static_cast<std::size_t>(i--)] = '0';
         if (i >= 0) {
             ++number.digit[static_cast<std::size_t>(i)];
         } else {
@@ -135,7 +137,8 @@ Picture picture_of(std::string_view pattern) {
 
 std::string written(const Digits& number, const Picture& picture) {
     const int whole = std::max(number.point, picture.whole_digits);
-    const int decimals = std::clamp(number.count - number.point, picture.least_decimals, std::max(picture.most_decimals, picture.least_decimals));
+    const int decimals = std::clamp(number.count - number.point, picture.least_decimals,
+                                    std::max(picture.most_decimals, picture.least_decimals));
     std::string out;
     out.reserve(static_cast<std::size_t>(std::max(whole, 0) * 4 / 3 + decimals + 3));
     if (number.negative) out += '-';

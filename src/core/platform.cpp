@@ -7,7 +7,11 @@
 namespace kolvar {
 namespace {
 
-std::string two_digits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+std::string two_digits(int number) {
+    std::string out = std::to_string(number);
+    if (out.size() < 2) out.insert(out.begin(), '0');
+    return out;
+}
 
 }  // namespace
 

@@ -37,7 +37,8 @@ std::string Value::text() const {
 
 int Value::whole() const {
     const double rounded = round_half_even(number());
-    if (rounded < std::numeric_limits<int>::min() || rounded > std::numeric_limits<int>::max()) fail(FaultKind::overflow);
+    if (rounded < std::numeric_limits<int>::min() || rounded > std::numeric_limits<int>::max())
+        fail(FaultKind::overflow);
     return static_cast<int>(rounded);
 }
 
@@ -53,11 +54,15 @@ double Cell::number() const {
 
 std::string Cell::text() const {
     switch (mark) {
-        case Mark::number: return decimal(held);
-        case Mark::dashes: return "---";
-        case Mark::xx: return "XX";
+        case Mark::number:
+            return decimal(held);
+        case Mark::dashes:
+            return "---";
+        case Mark::xx:
+            return "XX";
         case Mark::unset:
-        case Mark::empty: break;
+        case Mark::empty:
+            break;
     }
     return {};
 }

@@ -1,0 +1,62 @@
+#include "core/inspector_fields.hpp"
+
+namespace kolvar::inspection {
+
+std::span<const FieldEntry> measurement_fields() {
+    static constexpr FieldEntry entries[] = {
+        KOLVAR_SCALAR(DataFileName),
+        KOLVAR_SCALAR(DataFilePath),
+        KOLVAR_SCALAR(nIso),
+        KOLVAR_SCALAR(nSlices),
+        KOLVAR_SCALAR(PrevSlices),
+        KOLVAR_LIST(IsoName, MaxIso),
+        KOLVAR_LIST(IsoElem, MaxIso),
+        KOLVAR_LIST(IsoCanon, MaxIso),
+        KOLVAR_TABLE(Sig, MaxIso, MaxSlices),
+        KOLVAR_TABLE(Sig2, MaxIso, MaxSlices),
+        KOLVAR_LIST(Dwell, MaxIso),
+        KOLVAR_SCALAR(DwellUniform),
+        KOLVAR_LIST(IsoOmit, MaxSlices),
+        KOLVAR_SCALAR(ColHg198),
+        KOLVAR_SCALAR(ColHg199),
+        KOLVAR_SCALAR(ColHg200),
+        KOLVAR_SCALAR(ColHg201),
+        KOLVAR_SCALAR(ColHg202),
+        KOLVAR_SCALAR(ColHg),
+        KOLVAR_SCALAR(HgMass),
+        KOLVAR_SCALAR(ColPb204),
+        KOLVAR_SCALAR(ColPb206),
+        KOLVAR_SCALAR(ColPb207),
+        KOLVAR_SCALAR(ColPb208),
+        KOLVAR_SCALAR(ColTh232),
+        KOLVAR_SCALAR(ColU235),
+        KOLVAR_SCALAR(ColU238),
+        KOLVAR_LIST(FlexIso, MaxFlex),
+        KOLVAR_LIST(FlexCol, MaxFlex),
+        KOLVAR_LIST(RejFlag, MaxSlices),
+        KOLVAR_LIST(Rat68, MaxSlices),
+        KOLVAR_LIST(Rat75, MaxSlices),
+        KOLVAR_LIST(Rat82, MaxSlices),
+        KOLVAR_LIST(Rat382, MaxSlices),
+        KOLVAR_LIST(Rat76, MaxSlices),
+        KOLVAR_LIST(Sig204Net, MaxSlices),
+        KOLVAR_SCALAR(IS1col),
+        KOLVAR_SCALAR(IS2col),
+        KOLVAR_SCALAR(IS3col),
+        KOLVAR_SCALAR(IS1name),
+        KOLVAR_SCALAR(IS2name),
+        KOLVAR_SCALAR(IS3name),
+        KOLVAR_SCALAR(IS1conc),
+        KOLVAR_SCALAR(IS1err),
+        KOLVAR_SCALAR(IS2conc),
+        KOLVAR_SCALAR(IS2err),
+        KOLVAR_SCALAR(IS3conc),
+        KOLVAR_SCALAR(IS3err),
+        KOLVAR_LIST(IsoISidx, MaxIso),
+        KOLVAR_LIST(IsoISconc, MaxIso),
+        KOLVAR_LIST(IsoISerr, MaxIso),
+    };
+    return entries;
+}
+
+}  // namespace kolvar::inspection

@@ -1,0 +1,60 @@
+#include "core/inspector_fields.hpp"
+
+namespace kolvar::inspection {
+
+std::span<const FieldEntry> reference_fields() {
+    static constexpr FieldEntry entries[] = {
+        KOLVAR_SCALAR(nSTC),
+        KOLVAR_LIST(STCiso, MaxSTC),
+        KOLVAR_LIST(STCcc, MaxSTC),
+        KOLVAR_LIST(STCerr, MaxSTC),
+        KOLVAR_SCALAR(STCtitle),
+        KOLVAR_SCALAR(STCfileName),
+        KOLVAR_SCALAR(STCfilePath),
+        KOLVAR_SCALAR(nSTM),
+        KOLVAR_LIST(STMiso, MaxIso),
+        KOLVAR_LIST(STMcps, MaxIso),
+        KOLVAR_LIST(STMsd, MaxIso),
+        KOLVAR_SCALAR(STMfileName),
+        KOLVAR_SCALAR(STMfilePath),
+        KOLVAR_SCALAR(nBLK),
+        KOLVAR_LIST(BLKiso, MaxIso),
+        KOLVAR_LIST(BLKmean, MaxIso),
+        KOLVAR_LIST(BLKsd, MaxIso),
+        KOLVAR_SCALAR(BLKfileName),
+        KOLVAR_SCALAR(BLKfilePath),
+        KOLVAR_SCALAR(nBLKraw),
+        KOLVAR_TABLE(BLKraw, MaxIso, MaxSlices),
+        KOLVAR_SCALAR(nDWE),
+        KOLVAR_LIST(DWEiso, MaxIso),
+        KOLVAR_LIST(DWEms, MaxIso),
+        KOLVAR_SCALAR(DWEtitle),
+        KOLVAR_SCALAR(DWEfileName),
+        KOLVAR_SCALAR(DWEfilePath),
+        KOLVAR_LIST(StdConc, MaxIso),
+        KOLVAR_LIST(StdConcErr, MaxIso),
+        KOLVAR_LIST(StdCps, MaxIso),
+        KOLVAR_LIST(StdCpsErr, MaxIso),
+        KOLVAR_LIST(BlkMean, MaxIso),
+        KOLVAR_LIST(BlkSD, MaxIso),
+        KOLVAR_SCALAR(MissSTC),
+        KOLVAR_SCALAR(MissSTM),
+        KOLVAR_SCALAR(MissBLK),
+        KOLVAR_SCALAR(MissDWE),
+        KOLVAR_SCALAR(RefsMatched),
+        KOLVAR_LIST(GrubbsP10, 100),
+        KOLVAR_LIST(GrubbsP7_5, 100),
+        KOLVAR_LIST(GrubbsP5, 100),
+        KOLVAR_LIST(GrubbsP2_5, 100),
+        KOLVAR_LIST(GrubbsP1, 100),
+        KOLVAR_LIST(StudentT1, 101),
+        KOLVAR_LIST(StudentT2, 101),
+        KOLVAR_LIST(StudentT3, 101),
+        KOLVAR_LIST(StudentT4, 101),
+        KOLVAR_LIST(StudentT5, 101),
+        KOLVAR_LIST(StudentT6, 101),
+    };
+    return entries;
+}
+
+}  // namespace kolvar::inspection

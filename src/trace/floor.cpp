@@ -1,0 +1,1 @@
+// Keeps the floor a library until its first source.
