@@ -30,6 +30,10 @@ GLASS_ISOTOPES = (
     "La139 Ce140 Pr141 Nd143 Nd145 Nd146 Sm147 Sm149 Eu151 Eu153 Gd157 Gd158 Gd160 Tb159 Dy161 Dy162 Dy163 Dy164 Ho165 Er166 Er167 "
     "Er168 Tm169 Yb171 Yb172 Yb173 Yb174 Lu175 Hf177 Hf178 Hf180 Ta181 W182 W183 W184 Re185 Re187 Pt194 Pt195 Au197 Tl203 Tl205 "
     "Pb204 Pb206 Pb207 Pb208 Bi209 Th232 U238").split()
+# Passed over in the dwell file, which holds 100 isotopes at most.
+SELDOM_MEASURED = (
+    "F19 Si28 Si30 S34 Cl35 Cr53 Fe56 Ni62 Zn68 Ga71 Ge74 Se82 Br79 Br81 Sr86 Mo98 Pd108 Ag109 Cd114 Sn120 Sb123 Te128 Ba135 Nd145 "
+    "Sm149 Eu151 Gd158 Gd160 Dy162 Dy164 Er168 Yb174 Hf180 W183 W184 Re187 Pt194").split()
 
 # The example's quadrupole and sample. Columns: isotope, dwell time in ms, sensitivity in cps per ppm of the element while the
 # glass is ablated, gas blank in cps, concentration in the sample in ppm (an invented basaltic glass).
@@ -94,7 +98,9 @@ def settings(changes):
     lines += [(isotope, f"ratioName({k})") for k, isotope in enumerate(pairs)]
     lines += [(1, "setTestBlank")] + [(0, f"setRatBLK({k})") for k in range(1, 7)] + [(0, "reserve")] * 3
     for symbol in ELEMENTS:
-        standard = SECOND_STANDARD if symbol in WITH_CALCIUM else THIRD_STANDARD if symbol in WITH_ALUMINIUM else INTERNAL_STANDARD
+        standard = INTERNAL_STANDARD
+        if symbol in WITH_CALCIUM or symbol in WITH_ALUMINIUM:
+            standard = SECOND_STANDARD if symbol in WITH_CALCIUM else THIRD_STANDARD
         lines.append((symbol, standard[0]))
     lines.append(("Example of the start kit: quadrupole, data in cps, one internal standard", "setComments_IS"))
     unknown = set(changes) - {key for _, key in lines}
@@ -108,6 +114,7 @@ SETTINGS_FILES = {
     "Kolv-AGE-example.set": {"Method": 1, "setComments_IS": "Example of the start kit, opens the panel of the U/Pb path"},
     "Kolv-FLEX-example.set": {"Method": 3, "setComments_IS": "Example of the start kit, opens the panel of the FLEX path"},
     "zircon-counts.set": {
-        "setCSVisoLINE": 4, "setCSVdatLINE": 5, "setCPS_IS": 0, "setDwellFromFile_IS": 0, "setCcIntSta": 153319, "setErIntSta": 1500,
-        "setComments_IS": "Zircon: Si29 as internal standard (stoichiometric), tables of counts with heads on line 4, uniform dwell time"},
+        "setCSVisoLINE": 4, "setCSVdatLINE": 5, "setCPS_IS": 0, "setDwellFromFile_IS": 0,
+        "setCcIntSta": 153319, "setErIntSta": 1500,
+        "setComments_IS": "Zircon: stoichiometric Si29, tables of counts with heads on line 4, uniform dwell time"},
 }

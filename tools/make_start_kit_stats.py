@@ -91,7 +91,7 @@ def compare(name, rows, published, places):
     """Messages for every value that differs from the published one in its last printed place."""
     table, wrong = dict(rows), []
     for n, expected in published.items():
-        for got, want in zip(table[n], expected, strict=True):
+        for got, want in zip(table[n], expected):
             if abs(got - want) > 0.5000001 * 10.0 ** -places:
                 wrong.append(f"{name}, n = {n}: {got:.6f}, published {want}")
     return wrong
