@@ -7,8 +7,8 @@ GLASS_TITLE = ("NIST SRM 610 glass, element ppm and its uncertainty (95 % confid
                "Na, Al, Si and Ca from the oxides")
 # element: (oxide in mass percent, uncertainty, atoms of the element, atoms of oxygen)
 GLASS_OXIDES = {"Na": (13.4, 0.3, 2, 1), "Al": (1.95, 0.04, 2, 3), "Si": (69.7, 0.5, 1, 2), "Ca": (11.4, 0.2, 1, 1)}
-# Abridged standard atomic weights of IUPAC 2021.
-ATOMIC_WEIGHT = {"O": 15.999, "Na": 22.990, "Al": 26.982, "Si": 28.085, "Ca": 40.078}
+# Standard atomic weights of IUPAC 2021 (those of O, Si and Ca abridged).
+ATOMIC_WEIGHT = {"O": 15.999, "Na": 22.98976928, "Al": 26.9815384, "Si": 28.085, "Ca": 40.078}
 GLASS_PPM = {
     "Li": (468, 24), "Be": (476, 31), "B": (350, 56), "F": (304, None), "Mg": (432, None), "P": (413, 46), "S": (575, 32),
     "Cl": (274, 67), "K": (464, 21), "Sc": (455, 10), "Ti": (452, 10), "V": (450, 9), "Cr": (408, 10), "Mn": (444, 13),
