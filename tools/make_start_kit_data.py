@@ -64,7 +64,7 @@ def glass_ppm(element):
         percent, error, metal, oxygen = GLASS_OXIDES[element]
         weight = metal * ATOMIC_WEIGHT[element]
         factor = 10000.0 * weight / (weight + oxygen * ATOMIC_WEIGHT["O"])
-        return round(percent * factor), round(error * factor)
+        return round(percent * factor, 1), round(error * factor, 1)
     value, error = GLASS_PPM[element]
     return value, error or 0
 
