@@ -1,9 +1,9 @@
 #include "support/test_support.hpp"
 
+#include <unistd.h>
 #include <atomic>
 #include <fstream>
 #include <sstream>
-#include <unistd.h>
 
 namespace kolvar::test {
 
@@ -68,7 +68,9 @@ TempFolder::~TempFolder() {
     std::filesystem::remove_all(folder_, ignored);
 }
 
-std::string TempFolder::path(const std::string& name) const { return name.empty() ? folder_.string() : (folder_ / name).string(); }
+std::string TempFolder::path(const std::string& name) const {
+    return name.empty() ? folder_.string() : (folder_ / name).string();
+}
 
 std::string TempFolder::write(const std::string& name, const std::string& bytes) const {
     const std::string where = path(name);

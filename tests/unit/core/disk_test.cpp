@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <functional>
+
+#include "core/fault.hpp"
+#include "core/files.hpp"
+#include "support/test_support.hpp"
+
+namespace kolvar {
+namespace {
+
+namespace fs = std::filesystem;
+
+Fault fault_of(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const Fault& fault) {
+        return fault;
+    }
+    ADD_FAILURE() << "no fault";
+    return Fault(FaultKind::type);
+}
+
+class Disk : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    test::ScriptedPlatform os;
+};
+
+TEST_F(Disk, ReadsTheBytesAsTheyAre) {
+    const std::string bytes("a\r\nb\0c\xFF", 7);
+    EXPECT_EQ(read_bytes(folder.write("a.csv", bytes)), bytes);
+    EXPECT_EQ(read_bytes(folder.write("empty", "")), "");
+    const std::string large(1'000'000, 'x');
+    EXPECT_EQ(read_bytes(folder.write("large", large)), large);
+}
+
+TEST_F(Disk, AMissingFileAndAMissingFolderAreTheSame) {
+    const Fault missing = fault_of([&] { read_bytes(folder.path("none.csv")); });
+    EXPECT_EQ(missing.kind, FaultKind::file_missing);
+    EXPECT_EQ(missing.file, folder.path("none.csv"));
+    EXPECT_EQ(fault_of([&] { read_bytes(folder.path("none/none.csv")); }).kind, FaultKind::file_missing);
+    EXPECT_EQ(fault_of([] { read_bytes(""); }).kind, FaultKind::file_missing);
+}
+
+TEST_F(Disk, AFolderInPlaceOfAFileIsUnreadable) {
+    fs::create_directory(folder.path("a.csv"));
+    const Fault fault = fault_of([&] { read_bytes(folder.path("a.csv")); });
+    EXPECT_EQ(fault.kind, FaultKind::file_unreadable);
+    EXPECT_EQ(fault.file, folder.path("a.csv"));
+}
+
+TEST_F(Disk, APipeIsUnreadableAndNobodyWaits) {
+    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(fault_of([&] { read_bytes(folder.path("pipe")); }).kind, FaultKind::file_unreadable);
+}
+
+TEST_F(Disk, ANameIsNotCutAtAZeroByte) {
+    const std::string path = folder.write("a.set", "x");
+    EXPECT_EQ(fault_of([&] { read_bytes(path + std::string("\0.csv", 5)); }).kind, FaultKind::file_missing);
+    EXPECT_FALSE(file_exists(path + std::string("\0.csv", 5)));
+}
+
+TEST_F(Disk, ABackslashSeparatesOnEveryPlatform) {
+    fs::create_directory(folder.path("kit"));
+    folder.write("kit/a.set", "one");
+    EXPECT_EQ(read_bytes(folder.path() + "\\kit\\a.set"), "one");
+    EXPECT_TRUE(file_exists(folder.path() + "\\kit\\a.set"));
+    EXPECT_TRUE(folder_exists(folder.path() + "\\kit"));
+    replace_file(os, folder.path() + "\\kit\\b.set", "two");
+    EXPECT_EQ(folder.read("kit/b.set"), "two");
+    append_file(os, folder.path() + "\\kit\\b.set", "!");
+    EXPECT_EQ(folder.read("kit/b.set"), "two!");
+}
+
+TEST_F(Disk, FilesAndFoldersAreToldApart) {
+    EXPECT_TRUE(folder_exists(folder.path()));
+    EXPECT_FALSE(file_exists(folder.path()));
+    const std::string path = folder.write("a", "");
+    EXPECT_TRUE(file_exists(path));
+    EXPECT_FALSE(folder_exists(path));
+    EXPECT_FALSE(file_exists(folder.path("b")));
+    EXPECT_FALSE(folder_exists(folder.path("b")));
+    EXPECT_FALSE(file_exists(""));
+}
+
+TEST_F(Disk, ReplacingWritesTheFileWholeAndLeavesNoPart) {
+    replace_file(os, folder.path("a.stm"), "\"Si29\",1,2\r\n");
+    EXPECT_EQ(folder.read("a.stm"), "\"Si29\",1,2\r\n");
+    replace_file(os, folder.path("a.stm"), "new");
+    EXPECT_EQ(folder.read("a.stm"), "new");
+    replace_file(os, folder.path("a.stm"), "");
+    EXPECT_EQ(folder.read("a.stm"), "");
+    EXPECT_FALSE(fs::exists(folder.path("a.stm.part")));
+}
+
+TEST_F(Disk, AFullDiskLeavesTheFormerFileAndWhatWasWrittenInThePart) {
+    folder.write("a.set", "former");
+    os.disk_room = 4;
+    const Fault fault = fault_of([&] { replace_file(os, folder.path("a.set"), "0123456789"); });
+    EXPECT_EQ(fault.kind, FaultKind::disk_full);
+    EXPECT_EQ(fault.file, folder.path("a.set"));
+    EXPECT_EQ(folder.read("a.set"), "former");
+    EXPECT_EQ(folder.read("a.set.part"), "0123");
+}
+
+TEST_F(Disk, ADiskThatTakesExactlyTheFileIsNotFull) {
+    os.disk_room = 10;
+    replace_file(os, folder.path("a.set"), "0123456789");
+    EXPECT_EQ(folder.read("a.set"), "0123456789");
+}
+
+TEST_F(Disk, AnOldPartIsWrittenOver) {
+    folder.write("a.set.part", "something much longer than the file");
+    replace_file(os, folder.path("a.set"), "new");
+    EXPECT_EQ(folder.read("a.set"), "new");
+    EXPECT_FALSE(fs::exists(folder.path("a.set.part")));
+}
+
+TEST_F(Disk, AFolderInPlaceOfTheFileOrAMissingFolderCantBeWritten) {
+    fs::create_directory(folder.path("a.set"));
+    EXPECT_EQ(fault_of([&] { replace_file(os, folder.path("a.set"), "x"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("a.set"), "x"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(fault_of([&] { replace_file(os, folder.path("none/a.set"), "x"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("none/a.set"), "x"); }).kind, FaultKind::file_unwritable);
+    fs::create_directory(folder.path("b.set.part"));
+    folder.write("b.set", "former");
+    EXPECT_EQ(fault_of([&] { replace_file(os, folder.path("b.set"), "x"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(folder.read("b.set"), "former");
+}
+
+TEST_F(Disk, ReplacingKeepsTheRightsOfTheFileAndFollowsALink) {
+    folder.write("real.set", "former");
+    fs::permissions(folder.path("real.set"), fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("real.set", folder.path("link.set"));
+    replace_file(os, folder.path("link.set"), "new");
+    EXPECT_TRUE(fs::is_symlink(folder.path("link.set")));
+    EXPECT_EQ(folder.read("real.set"), "new");
+    EXPECT_EQ(fs::status(folder.path("real.set")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Disk, AppendingCreatesAndContinues) {
+    append_file(os, folder.path("0_quick"), "one\r\n");
+    append_file(os, folder.path("0_quick"), "two\r\n");
+    EXPECT_EQ(folder.read("0_quick"), "one\r\ntwo\r\n");
+}
+
+TEST_F(Disk, AFullDiskWhileAppendingKeepsWholeLines) {
+    folder.write("0_quick", "one\r\n");
+    os.disk_room = 3;
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("0_quick"), "two\r\n"); }).kind, FaultKind::disk_full);
+    EXPECT_EQ(folder.read("0_quick"), "one\r\n");
+    os.disk_room = 3;
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("0_new"), "two\r\n"); }).kind, FaultKind::disk_full);
+    EXPECT_FALSE(fs::exists(folder.path("0_new")));
+}
+
+TEST_F(Disk, ReadingAndWritingNeverChangeTheCurrentFolder) {
+    const fs::path before = fs::current_path();
+    replace_file(os, folder.path("a"), "x");
+    append_file(os, folder.path("a"), "y");
+    read_bytes(folder.path("a"));
+    EXPECT_EQ(fs::current_path(), before);
+}
+
+}  // namespace
+}  // namespace kolvar
