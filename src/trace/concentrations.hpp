@@ -6,7 +6,8 @@
 
 namespace kolvar {
 
-// Expects ComputeSelStats to have run and nData, Rej to be current. Reports its own faults; what was written stays.
+// Expects ComputeSelStats to have run and nData, Rej to be current. Reports its own faults, save
+// Fault(index) for a selection beyond the tables; what was written stays.
 void ComputeConcentrations(RunState& rs, Platform& os);
 
 }  // namespace kolvar
