@@ -17,6 +17,8 @@ void switch_reject_min_max(Context& context);
 void switch_reject_deviation(Context& context);
 void switch_reject_grubbs(Context& context);
 void reset_rejection(Context& context);
+// The user typed into comboProc: a box, and the level shown before.
+void refuse_typed_level(Context& context);
 // A click into the table; row 0 is the header row, col 0 the column of names.
 void click_matrix(Context& context, int row, int col);
 // The normalised trend of a row in pict1.

@@ -19,7 +19,8 @@ struct Frm3Matrix : Form {
     }
 
     Label lblFile{*this, "lblFile"};
-    Label lblSlices{*this, "lblSlices"};
+    Label lblSlices{*this, "lblSlices"};      // of the file
+    Label lblSelected{*this, "lblSelected"};  // of the selection
     Label lblIsotopes{*this, "lblIsotopes"};
     MenuTitle hlp3Title{*this, "hlp3Title", "&Help"};
     MenuEntry hlp3{*this, "hlp3", "Grubbs' test (pdf)", -1};
