@@ -78,10 +78,8 @@ void apply_presets(Context& context) {
 void fill_headers(const RunState& rs, View view, Grid& grid) {
     const auto top = row_of(grid, 0);
     top[0].text = view == View::cps ? "CPS / Average" : view == View::ratio ? "Isot./I.S." : "S. D.";
-    for (std::size_t c = 1; c < top.size(); ++c) {
-        top[c].text = "t";
-        top[c].text += std::to_string(rs.SelLow.val() + static_cast<int>(c) - 1);
-    }
+    for (std::size_t c = 1; c < top.size(); ++c)
+        top[c].text.assign(1, 't').append(std::to_string(rs.SelLow.val() + static_cast<int>(c) - 1));
 }
 
 std::string row_header(const RunState& rs, View view, int row) {
