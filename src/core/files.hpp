@@ -10,12 +10,12 @@
 namespace kolvar {
 
 // Path texts hold "/" or "\"; both separate.
-std::string native_path(std::string_view path);      // as this platform writes it
+std::string native_path(std::string_view path);  // as this platform writes it
 std::string join_path(std::string_view folder, std::string_view name);
-std::string file_name(std::string_view path);        // behind the last separator
-std::string folder_of(std::string_view path);        // before the last separator
-std::string last_three(std::string_view path);       // its last three characters
-bool is_relative_path(const std::string& path);      // "" is not
+std::string file_name(std::string_view path);    // behind the last separator
+std::string folder_of(std::string_view path);    // before the last separator
+std::string last_three(std::string_view path);   // its last three characters
+bool is_relative_path(const std::string& path);  // "" is not
 bool file_exists(const std::string& path);
 bool folder_exists(const std::string& path);
 

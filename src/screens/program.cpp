@@ -152,11 +152,11 @@ void Program::put_back_to_idle() {
 }
 
 void Program::apply(const Event& event, Form& form) {
-    state_->procedure = "";
     const auto handler = handlers_.find(handler_key(event.window, event.control, event.kind));
     Control* const control = event.control.empty() ? nullptr : form.find(event.control, event.index);
     if (!event.control.empty() && control == nullptr) return;
-    const Running running(*state_, handler == handlers_.end() ? "" : handler->first.c_str());
+    handling_ = event.control.empty() ? event.window : event.window + "." + event.control;
+    const Running running(*state_, handling_.c_str());
 
     if (control != nullptr) {
         switch (event.kind) {

@@ -61,6 +61,7 @@ private:
     std::unique_ptr<Context> context_;
     Journal journal_;
     std::map<std::string, Handler> handlers_;
+    std::string handling_;  // the control whose event runs: names the procedure in the box of a fault
     bool busy_ = false;
     bool ended_ = false;
     int status_ = 0;

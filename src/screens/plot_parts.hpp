@@ -1,0 +1,98 @@
+// What the signal plots are put together from: areas, scales, curves, marks of the intervals, labels beside a plot.
+#pragma once
+
+#include <cmath>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "ui/context.hpp"
+
+namespace kolvar::plot {
+
+// Where curves are drawn. Both plots have the upper one's width, so that a slice stands at the same place in each.
+struct Area {
+    Canvas& canvas;
+    double width, height;  // twips
+};
+Area upper_area(Frm2Time& frm);
+Area lower_area(Frm2Time& frm);
+
+// A label of the window, and the note of it in the list of the plot it stands beside.
+void show_label(Canvas& canvas, Label& label, const std::string& text, double left, double top);
+void hide_label(Canvas& canvas, Label& label);
+
+// The blank is an interval of this data file, and the run has another aim than a blank file.
+bool blank_is_marked_here(const RunState& rs);
+
+// Steps common to the plots: labels of the scales hidden, ground and lines of the intervals, the guides of the file
+// before together with the labels of the limits.
+void hide_scale_labels(Frm2Time& frm);
+void draw_interval_tints(const RunState& rs, const Area& area);
+void draw_interval_lines(const RunState& rs, const Area& area);
+void show_guides(Context& context);
+// The maximum of the lower plot, a tenth of the plot's height below its top.
+void show_lower_maximum(Frm2Time& frm, Label& label, const std::string& text);
+
+// Colour of the curve of a column, 1..50.
+Colour curve_colour(int column);
+
+// Columns that can be drawn: the first 50.
+int drawable_columns(const RunState& rs);
+
+// Positions of slices 0..slices.
+std::vector<double> slice_positions(double width, int slices);
+
+// Heights of values. The scale's end stands a tenth of the plot's height below its top. On a logarithmic scale `top`
+// is the natural logarithm of the end. A scale that ends at 0 or below has no places.
+class Scale {
+public:
+    Scale(double height, double top, bool linear) : height_(height), span_(top / 0.9), linear_(linear) {}
+    [[nodiscard]] std::optional<double> place(double value) const {
+        if (!(span_ > 0)) return std::nullopt;
+        const double y = height_ - height_ * (linear_ ? value : std::log(value <= 0 ? 0.00001 : value)) / span_;
+        return std::isfinite(y) ? std::optional<double>(y) : std::nullopt;
+    }
+
+private:
+    double height_, span_;
+    bool linear_;
+};
+
+// One line between neighbouring slices that both have a place; `place(i)` gives the height of slice i or nothing.
+template <class Place>
+void draw_curve(Canvas& canvas, std::span<const double> x, Colour colour, Place&& place) {
+    if (x.size() < 3) return;
+    std::optional<double> former = place(std::size_t{1});
+    for (std::size_t i = 2; i < x.size(); ++i) {
+        const std::optional<double> here = place(i);
+        if (former && here) canvas.Line(x[i - 1], *former, x[i], *here, colour);
+        former = here;
+    }
+}
+
+// What the lower plot shows of a column or a pair: a ratio of two signals, or concentrations.
+struct LowerCurve {
+    Colour colour;
+    std::span<const double> numerator, denominator;
+    std::span<const Cell> cells;
+    // Nothing where there is no number: a text in the cell, no denominator, or a denominator of 0.
+    [[nodiscard]] std::optional<double> value(std::size_t slice) const;
+};
+LowerCurve concentration_curve(const RunState& rs, int column, Colour colour);
+LowerCurve standard_ratio_curve(const RunState& rs, int column, Colour colour);  // over its internal standard
+// `top` is the end of the linear scale.
+void draw_lower_curve(const Area& area, std::span<const double> x, const LowerCurve& curve, double top);
+
+// Maximum, scale and curves of the lower plot together with all curves of the upper one.
+void draw_lower_plot(Context& context);
+
+// A typed or scrolled limit above 0 takes the place of the maximum, once: the entry is emptied.
+void take_entered_limit(Value& entry, double& maximum);
+// Decades of a logarithmic scale that ends at `maximum`: ticks, the labels of the first seven, lines when they are on.
+void draw_decades(Frm2Time& frm, double maximum);
+void draw_linear_divisions(Frm2Time& frm, double steps);
+void show_upper_maximum(Frm2Time& frm, const std::string& text);
+
+}  // namespace kolvar::plot

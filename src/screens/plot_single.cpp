@@ -1,0 +1,78 @@
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "core/numbers.hpp"
+#include "screens/plot_parts.hpp"
+#include "screens/plots.hpp"
+
+namespace kolvar {
+namespace {
+
+// Column and colour of the six single curves; column 0 = the curve isn't set.
+std::array<std::pair<int, Colour>, 6> single_curves(const RunState& rs) {
+    return {{{rs.Curve1, palette(0)},
+             {rs.Curve2, palette(12)},
+             {rs.Curve3, palette(10)},
+             {rs.Curve4, palette(9)},
+             {rs.Curve5, palette(13)},
+             {rs.Curve6, palette(11)}}};
+}
+
+}  // namespace
+
+void draw_pict1(Context& context) {
+    RunState& rs = context.rs;
+    const Running running(rs, "draw_pict1");
+    if (rs.PlotOn == 1) return;  // a file is being taken in
+    Frm2Time& frm = context.forms.frm2_Time;
+    const plot::Area area = plot::upper_area(frm);
+    plot::hide_scale_labels(frm);
+    area.canvas.Clear();
+    plot::draw_interval_tints(rs, area);
+    plot::show_guides(context);
+
+    // The maximum is the caller's. In the logarithmic view each draw takes its logarithm, and a typed limit, which
+    // comes after that, counts as one.
+    if (rs.MaxCps > 0 && !rs.LinearView) rs.MaxCps = logarithm(rs.MaxCps);
+    rs.FullMax = rs.MaxCps;
+    plot::take_entered_limit(rs.YMaxEntry, rs.MaxCps);
+    plot::show_upper_maximum(frm, Format(rs.MaxCps, "0.0"));
+
+    const plot::Scale scale(area.height, rs.MaxCps, rs.LinearView);
+    const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
+    for (const auto& [column, colour] : single_curves(rs)) {
+        if (column == 0) continue;
+        const auto signal = std::as_const(rs.Sig).column(column);
+        plot::draw_curve(area.canvas, x, colour, [&](std::size_t i) { return scale.place(signal[i]); });
+    }
+
+    if (!rs.LinearView) {
+        // The decades count the digits of the logarithm's logarithm here, so that hardly ever one is marked; the plot
+        // of all curves counts those of the maximum itself.
+        if (rs.MaxCps != 0) rs.MaxCps = logarithm(std::fabs(rs.MaxCps));
+        plot::draw_decades(frm, rs.MaxCps);
+    }
+    if (rs.ModeData == 1) draw_pict2(context);
+}
+
+void draw_pict2(Context& context) {
+    RunState& rs = context.rs;
+    const Running running(rs, "draw_pict2");
+    if (rs.PlotOn == 1) return;
+    Frm2Time& frm = context.forms.frm2_Time;
+    const plot::Area area = plot::lower_area(frm);
+    area.canvas.Clear();
+    plot::draw_interval_lines(rs, area);
+    plot::show_lower_maximum(frm, frm.lblMaxIIS, Format(rs.MaxRatio, "0.000"));
+    const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
+    for (const auto& [column, colour] : single_curves(rs)) {
+        if (column == 0) continue;
+        const plot::LowerCurve curve = rs.setRatio_ppmIS.val() == 1
+                                           ? plot::concentration_curve(rs, column, colour)
+                                           : plot::standard_ratio_curve(rs, column, colour);
+        plot::draw_lower_curve(area, x, curve, rs.MaxRatio);
+    }
+}
+
+}  // namespace kolvar

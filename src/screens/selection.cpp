@@ -1,0 +1,227 @@
+#include "screens/selection.hpp"
+
+#include <cmath>
+#include <limits>
+
+#include "core/numbers.hpp"
+#include "screens/plot_parts.hpp"
+#include "screens/plots.hpp"
+#include "trace/statistics.hpp"
+
+namespace kolvar {
+namespace {
+
+constexpr int left_button = 1;
+constexpr int right_button = 2;
+
+bool selection_stands(const RunState& rs) { return rs.SelLow.is_set() && rs.SelUpp.is_set(); }
+bool blank_stands(const RunState& rs) { return rs.BlkLow.is_set() && rs.BlkUpp.is_set(); }
+
+int clicked_slice(const Context& context) {
+    return slice_at(context.rs.ClickX, context.forms.frm2_Time.pict1.width, context.rs.nSlices);
+}
+
+// Also from one limit alone: the first click at slice 20 counts -19 slices, which no label shows.
+void count_selection(RunState& rs) {
+    rs.SelN = rs.SelUpp.val() - rs.SelLow.val() + 1;
+    rs.SelNGood = rs.SelN.val();
+}
+
+// The beam can't start after the selection does: such a click is lost, and the next one still sets the beam start.
+// The redraw that follows belongs to the screen of the U/Pb path, which comes in a later version.
+void mark_beam_start(Context& context) {
+    RunState& rs = context.rs;
+    const int slice = clicked_slice(context);
+    if (rs.SelLow.is_set() && slice > rs.SelLow.val()) return;
+    rs.BeamStart = slice;
+    rs.WaitBeamStart = false;
+}
+
+// The user overrides a proposal of the refinement that was not accepted: its limits become the selection, which the
+// click then changes. The labels that show a proposal stand on the U/Pb screen, which comes in a later version.
+void take_over_stale_proposal(RunState& rs) {
+    if (rs.AcceptBest || (!rs.BestLow.is_set() && !rs.BestUpp.is_set())) return;
+    rs.SelLow = rs.BestLow;
+    rs.SelUpp = rs.BestUpp;
+    count_selection(rs);
+    rs.BestLow.clear();
+    rs.BestUpp.clear();
+    rs.ZizzMin68 = 0;
+    rs.ZizzMin75 = 0;
+}
+
+// False when the click is dropped because one limit would pass the other. A limit that stands at position 0 stops
+// nothing.
+bool mark_limit(Context& context, Limit& low, double& low_x, Limit& upp, double& upp_x) {
+    const double x = context.rs.ClickX;
+    if (context.rs.ClickButton == left_button) {
+        if (upp_x > 0 && upp_x < x) return false;
+        low = clicked_slice(context);
+        low_x = x;
+    }
+    if (context.rs.ClickButton == right_button) {
+        if (low_x > 0 && low_x > x) return false;
+        upp = clicked_slice(context);
+        upp_x = x;
+    }
+    return true;
+}
+
+bool mark_signal(Context& context) {
+    RunState& rs = context.rs;
+    Frm2Time& frm = context.forms.frm2_Time;
+    if (!mark_limit(context, rs.SelLow, rs.SelLowX, rs.SelUpp, rs.SelUppX)) return false;
+    // A click at the left edge means the first slice; of the four limits this one alone is put right.
+    if (rs.ClickButton == left_button && rs.SelLow.val() == 0) rs.SelLow = 1;
+    place_limit_labels(context);
+    count_selection(rs);
+    if (rs.SelN.val() > 0) {
+        frm.lblMeasSel.text = rs.SelN.text();
+        if (plot::blank_is_marked_here(rs)) frm.lblBLKshow.visible = frm.lblBLKtolig.visible = true;
+    }
+    return true;
+}
+
+bool mark_blank(Context& context) {
+    RunState& rs = context.rs;
+    if (rs.BlankFromData != 1) return true;
+    if (!mark_limit(context, rs.BlkLow, rs.BlkLowX, rs.BlkUpp, rs.BlkUppX)) return false;
+    count_selection(rs);
+    rs.BlkN = rs.BlkUpp.val() - rs.BlkLow.val() + 1;
+    if (rs.BlkN > 0) context.forms.frm2_Time.lblBLKtolig.text = rs.BlkLow.text() + " - " + rs.BlkUpp.text();
+    if (blank_stands(rs)) ComputeBlank(rs, context.os);
+    return true;
+}
+
+void subtract_blank(RunState& rs) {
+    if (rs.ModeData != 1) return;
+    for (int i = 1; i <= rs.nIso; ++i) {
+        if (rs.BlkMean(i).is_empty()) continue;
+        const double blank = rs.BlkMean(i).number();
+        for (int k = rs.SelLow.val(); k <= rs.SelUpp.val(); ++k) rs.Sig2(i, k) = rs.Sig(i, k) - blank;
+    }
+}
+
+// What the plots show depends on the interval: the blank off the signal, then the statistics, then the curves. A blank
+// that is marked by this very click is computed a second time here.
+void correct_and_draw(Context& context) {
+    RunState& rs = context.rs;
+    const bool all_four = selection_stands(rs) && blank_stands(rs);
+    if (rs.setAllCurve.val() == 0) {
+        draw_pict1(context);
+    } else if (rs.setAllCurve.val() == 1) {
+        if ((rs.BlankFromData == 1 && selection_stands(rs)) || (rs.ModeData == 1 && all_four)) {
+            if (rs.BlankFromData == 1) ComputeBlank(rs, context.os);
+            subtract_blank(rs);
+        }
+        if (all_four) ComputeSelStats(rs, context.os);
+        draw_all(context);
+    }
+}
+
+// The results and the rejection of outliers that a former selection gave no longer hold. What their screen shows of
+// them, and its redraw, comes with the U/Pb screen in a later version.
+void drop_stale_results(RunState& rs) {
+    if (!selection_stands(rs) || !blank_stands(rs)) return;
+    if (rs.RejectOn) {
+        rs.RejectOn = false;
+        rs.SelNGood = rs.SelN.val();
+        for (int t = rs.SelLow.val(); t <= rs.SelUpp.val(); ++t) rs.RejFlag(t) = 0;
+    }
+    rs.ZizzRunning = false;
+    rs.ZizzMin68 = 0;
+    rs.ZizzMin75 = 0;
+}
+
+void enable_what_the_limits_allow(Context& context) {
+    const RunState& rs = context.rs;
+    Frm2Time& frm = context.forms.frm2_Time;
+    if (selection_stands(rs) && blank_stands(rs)) {
+        frm.cmdReject.enabled = true;
+        if (rs.Method == 1) frm.cmdCopySel.enabled = true;
+        frm.cmdCopyHead.enabled = frm.cmdCopy.enabled = frm.cmdApp.enabled = true;
+    }
+    if (selection_stands(rs) && (rs.BlankFromData != 1 || blank_stands(rs)))
+        frm.cmdShowConc.enabled = frm.cmdAppQuick.enabled = true;
+}
+
+}  // namespace
+
+int slice_at(double x, double width, int slices) {
+    const double slice = round_half_up(quotient(x, width) * slices);
+    if (std::fabs(slice) > std::numeric_limits<int>::max()) fail(FaultKind::overflow);
+    return static_cast<int>(slice);
+}
+
+double position_of(int slice, double width, int slices) {
+    return slices > 0 ? width * slice / slices : 0.0;  // nothing is loaded: nothing stands anywhere
+}
+
+void OnPlotDown(Context& context, int plot, int button, int shift, double x, double y) {
+    RunState& rs = context.rs;
+    const Running running(rs, "OnPlotDown");
+    if (plot == 1) context.forms.frm2_Time.cmdReject.enabled = true;
+    rs.ZizzRunning = false;
+    if (rs.CurvesShown == 0) {
+        context.os.warn("Select first one ore more isotopes!", "");
+        return;
+    }
+    rs.ClickX = x;
+    rs.ClickY = y;
+    rs.ClickButton = button;
+    rs.ClickShift = shift;
+    mark_selection(context);
+}
+
+// Every click brings the plots back to their full height: who has zoomed in has to zoom again.
+void OnPlotUp(Context& context) {
+    const Running running(context.rs, "OnPlotUp");
+    context.forms.frm2_Time.VScroll1.set_value(1);
+    if (context.rs.Method == 0) context.forms.frm2_Time.VScroll3.set_value(1);
+}
+
+void mark_selection(Context& context) {
+    RunState& rs = context.rs;
+    const Running running(rs, "mark_selection");
+    const bool uranium_lead = rs.Method == 1 || rs.Method == 3;
+    if (uranium_lead && rs.WaitBeamStart) {
+        mark_beam_start(context);
+        return;
+    }
+    take_over_stale_proposal(rs);
+    // A dropped click leaves everything as it is: no redraw, and ClickShift stands.
+    if (rs.ClickShift == 0 && !mark_signal(context)) return;
+    if (rs.ClickShift == 1 && !mark_blank(context)) return;
+    rs.ClickShift = 0;
+    if (rs.Method == 0) correct_and_draw(context);
+    if (uranium_lead) drop_stale_results(rs);
+    enable_what_the_limits_allow(context);
+}
+
+void OnBeamStartLabel(RunState& rs) { rs.WaitBeamStart = true; }
+
+void positions_from_slices(Context& context) {
+    RunState& rs = context.rs;
+    const Running running(rs, "OnResize");
+    const double width = context.forms.frm2_Time.pict1.width;
+    const auto position = [&](const Limit& limit) { return position_of(limit.val(), width, rs.nSlices); };
+    rs.SelLowX = position(rs.SelLow);
+    rs.SelUppX = position(rs.SelUpp);
+    rs.BlkLowX = position(rs.BlkLow);
+    rs.BlkUppX = position(rs.BlkUpp);
+    rs.FormerLowX = position(rs.FormerLow);
+    rs.FormerUppX = position(rs.FormerUpp);
+}
+
+void place_limit_labels(Context& context) {
+    const RunState& rs = context.rs;
+    Frm2Time& frm = context.forms.frm2_Time;
+    const auto shown = [](const Limit& limit) { return limit.val() > 0 ? limit.text() : std::string(); };
+    const double left = frm.pict1.left;
+    const double top = frm.pict1.top + frm.pict1.height + 100;
+    // The number of the lower limit ends at its line, that of the upper one begins at its line.
+    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow), left + rs.SelLowX - frm.lblLow.width, top);
+    plot::show_label(frm.pict1.canvas, frm.lblUpp, shown(rs.SelUpp), left + rs.SelUppX, top);
+}
+
+}  // namespace kolvar

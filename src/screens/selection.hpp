@@ -1,0 +1,25 @@
+// The marks of blank and signal: clicks on the plots become limits.
+#pragma once
+
+#include "ui/context.hpp"
+
+namespace kolvar {
+
+// Slice of a position and position of a slice, for a plot of this width (twips).
+int slice_at(double x, double width, int slices);
+double position_of(int slice, double width, int slices);
+
+// Mouse button down over pict1 (plot 1) or pict2 (plot 2), and up again. button 1 left, 2 right; shift: 0 none,
+// 1 SHIFT, else other modifiers.
+void OnPlotDown(Context& context, int plot, int button, int shift, double x, double y);
+void OnPlotUp(Context& context);
+// Applies the stored click (ClickX, ClickButton, ClickShift).
+void mark_selection(Context& context);
+// A click on the label of the beam start: the next click on the plot sets it.
+void OnBeamStartLabel(RunState& rs);
+// The plot's width has changed: positions anew from the slices.
+void positions_from_slices(Context& context);
+// The labels of the limits move to their places beside the plot and show the limits.
+void place_limit_labels(Context& context);
+
+}  // namespace kolvar

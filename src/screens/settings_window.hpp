@@ -1,0 +1,18 @@
+// Step 1: what the windows around it need of its handlers.
+#pragma once
+
+#include "ui/context.hpp"
+
+namespace kolvar {
+
+// From the choice of files to the choice of internal standards, and back.
+void Selection_Ready(Context& context);
+void back_to_file_choice(Context& context);
+
+// What a control does whose window or calculation this version does not hold.
+void say_not_yet(Platform& os);
+
+// Hands a help document of the program's folder to the system; a box tells which file is missing.
+void open_help(Context& context, const std::string& document);
+
+}  // namespace kolvar

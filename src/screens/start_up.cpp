@@ -1,0 +1,101 @@
+#include "screens/start_up.hpp"
+
+#include "core/files.hpp"
+#include "core/records.hpp"
+#include "core/stat_tables.hpp"
+#include "import/data_file.hpp"
+#include "screens/start_paths.hpp"
+#include "settings/reference_files.hpp"
+#include "settings/settings_file.hpp"
+
+namespace kolvar {
+
+namespace {
+
+// The folder of the start kit, from the file that names it.
+void read_start_path(RunState& rs, Platform& os, const std::string& name) {
+    const Running running(rs, "read_start_path");
+    guarded(
+        [&] {
+            const std::string path = join_path(rs.AppPath1, name);
+            RecordReader reader(to_text(read_bytes(path)), path);
+            rs.WorkPath = start_kit_folder(rs, reader.text_field());
+        },
+        [&](const Fault&) {
+            os.warn("Error occurred while trying to load file: '" + name +
+                        "' \nThis file contains the path to the necessary start kit of Kolvar and must be in the work "
+                        "directory of the EXE program.",
+                    "KOLVAR");
+        });
+}
+
+void start_internal_standard_path(Context& context) {
+    RunState& rs = context.rs;
+    read_start_path(rs, context.os, "start_path");
+
+    rs.SettingsName = "Kolvar-default-h.set";
+    rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
+    ReadSettings(rs, context.os, rs.SettingsPath);
+
+    // The kit of this path is loaded to its end even if the settings file has chosen another path.
+    for (int i = 1; i <= MaxIso; ++i) rs.Dwell(i) = rs.setIS_Dwell.val() / 1000;
+
+    rs.DWEfilePath = rs.DWEfileName = reference_path(rs, rs.setDWEfile_IS.text());
+    LoadDWE(rs, context.os);
+    rs.DWEfileName = rs.DWEfilePath;
+
+    rs.STCfilePath = rs.STCfileName = reference_path(rs, rs.setSTCfile_IS.text());
+    LoadSTC(rs, context.os);
+    rs.STCfileName = rs.STCfilePath;
+
+    rs.BLKfileName = "2004-12-19-a.blk";
+    rs.BLKfilePath = join_path(rs.WorkPath, rs.BLKfileName);
+    LoadBLK(rs, context.os);
+
+    rs.STMfileName = "nbs-610-2004-12-19-1.stm";
+    rs.STMfilePath = join_path(rs.WorkPath, rs.STMfileName);
+    LoadSTM(rs, context.os);
+
+    rs.DataFileName = "example-1.csv";
+    rs.DataFilePath = join_path(rs.WorkPath, rs.DataFileName);
+    LoadCSV(context, rs.DataFilePath);
+}
+
+}  // namespace
+
+std::string start_kit_folder(const RunState& rs, const std::string& named) {
+    const std::string folder = native_path(named);
+    const std::string beside_program = join_path(rs.AppPath1, folder);
+    if (is_relative_path(folder) && !folder_exists(folder) && folder_exists(beside_program)) return beside_program;
+    return folder;
+}
+
+std::string reference_path(const RunState& rs, const std::string& named) {
+    const std::string path = native_path(named);
+    const std::string in_kit = join_path(rs.WorkPath, path);
+    if (is_relative_path(path) && !file_exists(path) && file_exists(in_kit)) return in_kit;
+    return path;
+}
+
+void start_up(Context& context, int method, const std::string& app_folder) {
+    RunState& rs = context.rs;
+    const Running running(rs, "start_up");
+    set_start_values(rs);
+    rs.Method = method;
+    rs.AppPath1 = rs.AppPath2 = app_folder;
+    LoadGrubbs(rs, context.os);
+    LoadStudent(rs, context.os);
+
+    if (method == 0) {
+        start_internal_standard_path(context);
+    } else if (method == 1 || method == 3) {
+        // The default file of these paths and its example come with their screens.
+        read_start_path(rs, context.os, "start_path_KolvAGE");
+        rs.SettingsName = "KolvAge-default-b01.def";
+        rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
+    }
+    rs.PlotOn = 0;
+    context.shell.open(context.forms.frm1_Settings);
+}
+
+}  // namespace kolvar

@@ -1,0 +1,38 @@
+// Step 2 of the internal-standard path, cut by topic: opening, layout, scales, analytes, signal ratios, leaving.
+#pragma once
+
+#include "screens/program.hpp"
+#include "ui/context.hpp"
+
+namespace kolvar {
+
+// Opening and activation.
+void open_time_window(Context& context);
+void activate_time_window(Context& context);
+
+// Places the plots and all that stands around them for the window's present size (twips).
+void lay_out_time_window(Context& context);
+// The window has a new size.
+void OnResize(Context& context);
+
+// The signal-ratio panel. Its edit mode is told by the caption of cmdAcceptRatios.
+bool ratio_panel_in_edit_mode(const Frm2Time& form);
+void find_ratio_columns(Context& context);  // RatioCol and the labels from the names of the last ratio plot
+void connect_ratio_panel(Program& program);
+
+// How many analytes can be chosen: the columns, at most 50.
+int choosable_analytes(const RunState& rs);
+bool all_limits_set(const RunState& rs);
+// Preview of the averages and the result buttons become usable when the limits that they need are set.
+void enable_results(Context& context);
+
+// Both zoom bars back to full scale.
+void reset_zoom(Frm2Time& form);
+
+// Blank, statistics and concentrations of the present selection, without rejection, shown in frm_AverConc.
+void ShowAverages(Context& context);
+
+// cmdNext: guards, blank, the question about a noisy blank, and the way on.
+void LeaveTimeSelection(Context& context);
+
+}  // namespace kolvar
