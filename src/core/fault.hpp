@@ -10,9 +10,9 @@ namespace kolvar {
 enum class FaultKind {
     division_by_zero,
     overflow,
-    domain,       // root or logarithm of a number that has none
-    type,         // a text where a number is needed
-    index,        // a cell beyond the limits of a table
+    domain,  // root or logarithm of a number that has none
+    type,    // a text where a number is needed
+    index,   // a cell beyond the limits of a table
     file_missing,
     file_unreadable,  // a folder, a locked file, a failed read
     end_of_file,      // fewer lines or fields than needed

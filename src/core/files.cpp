@@ -54,6 +54,25 @@ std::size_t character_length(std::string_view text, std::size_t at) {
     return length;
 }
 
+// How far the text is well-formed UTF-8. Measurements are nearly all ASCII, which is passed over eight bytes at a time.
+std::size_t well_formed_length(std::string_view text) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::uint64_t eight = 0;
+        if (at + sizeof eight <= text.size()) {
+            std::memcpy(&eight, text.data() + at, sizeof eight);
+            if ((eight & 0x8080808080808080U) == 0) {
+                at += sizeof eight;
+                continue;
+            }
+        }
+        const std::size_t length = character_length(text, at);
+        if (length == 0) break;
+        at += length;
+    }
+    return at;
+}
+
 void append_windows_1252(std::string& out, unsigned char byte) {
     const unsigned code = byte < 0xA0 ? windows_1252[byte - 0x80U] : byte;
     if (code < 0x800) {
@@ -113,12 +132,7 @@ std::string last_three(std::string_view path) {
 
 std::string to_text(std::string bytes) {
     if (bytes.starts_with("\xEF\xBB\xBF")) bytes.erase(0, 3);
-    std::size_t at = 0;
-    while (at < bytes.size()) {
-        const std::size_t length = character_length(bytes, at);
-        if (length == 0) break;
-        at += length;
-    }
+    std::size_t at = well_formed_length(bytes);
     if (at == bytes.size()) return bytes;
     std::string out = bytes.substr(0, at);
     out.reserve(bytes.size() + bytes.size() / 8);

@@ -10,8 +10,8 @@ namespace kolvar {
 
 struct FieldShape {
     bool known = false;
-    int dimensions = 0;       // 0 scalar, 1 table by one index, 2 by column and row
-    int last1 = 0, last2 = 0; // highest indices
+    int dimensions = 0;        // 0 scalar, 1 table by one index, 2 by column and row
+    int last1 = 0, last2 = 0;  // highest indices
 };
 
 FieldShape field_shape(const std::string& name);

@@ -13,9 +13,9 @@ struct Measurement {
     int nIso = 0, nSlices = 0;
     int PrevSlices = 0;  // slices of the file before; 0 after a selection was dropped
 
-    Table1<std::string> IsoName{MaxIso};   // column heads as they stand in the file
-    Table1<std::string> IsoElem{MaxIso};   // their characters that are no digits
-    Table1<std::string> IsoCanon{MaxIso};  // IsoElem, then the digits
+    Table1<std::string> IsoName{MaxIso};     // column heads as they stand in the file
+    Table1<std::string> IsoElem{MaxIso};     // their characters that are no digits
+    Table1<std::string> IsoCanon{MaxIso};    // IsoElem, then the digits
     Table2<double> Sig{MaxIso, MaxSlices};   // cps once the import has finished
     Table2<double> Sig2{MaxIso, MaxSlices};  // blank-corrected cps
     Table1<Cell> Dwell{MaxIso};              // s
@@ -36,7 +36,7 @@ struct Measurement {
     Limit IS1col, IS2col, IS3col;
     std::string IS1name, IS2name, IS3name;
     Value IS1conc, IS1err, IS2conc, IS2err, IS3conc, IS3err;
-    Table1<int> IsoISidx{MaxIso};       // column of the internal standard of each isotope
+    Table1<int> IsoISidx{MaxIso};  // column of the internal standard of each isotope
     Table1<double> IsoISconc{MaxIso}, IsoISerr{MaxIso};
 };
 

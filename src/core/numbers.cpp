@@ -140,7 +140,7 @@ std::string written(const Digits& number, const Picture& picture) {
     const int decimals = std::clamp(number.count - number.point, picture.least_decimals,
                                     std::max(picture.most_decimals, picture.least_decimals));
     std::string out;
-    out.reserve(static_cast<std::size_t>(std::max(whole, 0) * 4 / 3 + decimals + 3));
+    out.reserve(static_cast<std::size_t>(std::max(whole, 0)) * 4 / 3 + static_cast<std::size_t>(decimals) + 3);
     if (number.negative) out += '-';
     for (int left = whole; left > 0; --left) {
         out += number.at(number.point - left);

@@ -23,8 +23,8 @@ public:
     std::string line();
     // The next field. Fault(end_of_file) when none is left or the file ends inside a quoted field.
     Value field();
-    std::string text_field();    // the field as a text
-    double number_field();       // the field by its number (leading-number rule)
+    std::string text_field();  // the field as a text
+    double number_field();     // the field by its number (leading-number rule)
 
 private:
     Value quoted_field();
@@ -35,7 +35,7 @@ private:
     std::string text_;
     std::string path_;
     std::size_t at_ = 0;
-    std::size_t end_ = 0;       // behind the last character that is neither blank nor line end
+    std::size_t end_ = 0;  // behind the last character that is neither blank nor line end
     int line_ = 1;
     bool after_comma_ = false;  // a field is owed, even an empty one
 };

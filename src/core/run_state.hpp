@@ -22,8 +22,7 @@ struct RunState : Measurement, Intervals, References, SettingsKeys, Results {
 // Names the procedure that runs while it lives. A fault that leaves the procedure leaves the name standing.
 class Running {
 public:
-    Running(RunState& rs, const char* procedure)
-        : rs_(rs), former_(rs.procedure), faults_(std::uncaught_exceptions()) {
+    Running(RunState& rs, const char* procedure) : rs_(rs), former_(rs.procedure), faults_(std::uncaught_exceptions()) {
         rs.procedure = procedure;
     }
     ~Running() {

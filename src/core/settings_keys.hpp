@@ -25,7 +25,7 @@ struct SettingsKeys {
     Value setDWEfile_IS;
     Value setIS_Dwell;  // ms
     Value setISnum;
-    Value setIntSta, setCcIntSta, setErIntSta;     // name, ppm, ppm
+    Value setIntSta, setCcIntSta, setErIntSta;  // name, ppm, ppm
     Value setIntSta2, setCcIntSta2, setErIntSta2;
     Value setMas2;  // amu
     Value setIntSta3, setCcIntSta3, setErIntSta3;

@@ -29,8 +29,8 @@ public:
     explicit Table1(int last) : last_(last), cells_(std::make_unique<T[]>(static_cast<std::size_t>(last) + 1)) {}
     Table1(const Table1&) = delete;
     Table1& operator=(const Table1&) = delete;
-    Table1(Table1&&) = default;
-    Table1& operator=(Table1&&) = default;
+    Table1(Table1&&) noexcept = default;
+    Table1& operator=(Table1&&) noexcept = default;
 
     T& operator()(int i) { return cells_[checked(i)]; }
     const T& operator()(int i) const { return cells_[checked(i)]; }
@@ -53,12 +53,14 @@ template <class T>
 class Table2 {
 public:
     Table2(int last_column, int last_row)
-        : columns_(last_column), rows_(last_row), stride_(static_cast<std::size_t>(last_row) + 1),
+        : columns_(last_column),
+          rows_(last_row),
+          stride_(static_cast<std::size_t>(last_row) + 1),
           cells_((static_cast<std::size_t>(last_column) + 1) * stride_) {}
     Table2(const Table2&) = delete;
     Table2& operator=(const Table2&) = delete;
-    Table2(Table2&&) = default;
-    Table2& operator=(Table2&&) = default;
+    Table2(Table2&&) noexcept = default;
+    Table2& operator=(Table2&&) noexcept = default;
 
     T& operator()(int i, int j) { return cells_[checked(i, j)]; }
     const T& operator()(int i, int j) const { return cells_[checked(i, j)]; }
