@@ -97,8 +97,8 @@ void draw_lower_plot(Context& context) {
     if (from_data) rs.AutoScale2 = false;
     if (rs.ModeData == 1) {
         const std::string maximum = Format(rs.MaxRatio, pattern_by_size(rs.MaxRatio));
-        show_lower_maximum(frm, frm.lblMaxIIS, maximum);
-        show_lower_maximum(frm, frm.lblMaxIIS2, maximum);
+        show_maximum(frm.pict2, frm.lblMaxIIS, maximum);
+        show_maximum(frm.pict2, frm.lblMaxIIS2, maximum);
     }
     const Area area = lower_area(frm);
     const std::vector<double> x = slice_positions(area.width, rs.nSlices);

@@ -32,8 +32,6 @@ void hide_scale_labels(Frm2Time& frm);
 void draw_interval_tints(const RunState& rs, const Area& area);
 void draw_interval_lines(const RunState& rs, const Area& area);
 void show_guides(Context& context);
-// The maximum of the lower plot, a tenth of the plot's height below its top.
-void show_lower_maximum(Frm2Time& frm, Label& label, const std::string& text);
 
 // Colour of the curve of a column, 1..50.
 Colour curve_colour(int column);
@@ -93,6 +91,7 @@ void take_entered_limit(Value& entry, double& maximum);
 // Decades of a logarithmic scale that ends at `maximum`: ticks, the labels of the first seven, lines when they are on.
 void draw_decades(Frm2Time& frm, double maximum);
 void draw_linear_divisions(Frm2Time& frm, double steps);
-void show_upper_maximum(Frm2Time& frm, const std::string& text);
+// The number at a scale's end: left of the plot, its middle a tenth of the plot's height below the top.
+void show_maximum(Picture& plot, Label& label, const std::string& text);
 
 }  // namespace kolvar::plot

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -64,14 +63,14 @@ void draw_decades(Frm2Time& frm, double maximum) {
     const Area area = upper_area(frm);
     const std::array<Label*, 7> labels{&frm.lbl10,   &frm.lbl100, &frm.lbl1000, &frm.lbl10k,
                                        &frm.lbl100k, &frm.lbl1m,  &frm.lbl10m};
-    hide_label(area.canvas, frm.lblMaxCps);
     const int decades = digits_of_integer_part(maximum) - 1;
     for (int i = 1; i <= decades; ++i) {
         const double y = area.height - area.height * 0.9 * i / Log10(maximum);
         draw_mark(frm, area, y);
         if (i > static_cast<int>(labels.size())) continue;
         Label& label = *labels[static_cast<std::size_t>(i) - 1];
-        show_label(area.canvas, label, label.text, frm.pict1.left - label.width, frm.pict1.top + y);
+        show_label(area.canvas, label, label.text, frm.pict1.left - label.width,
+                   frm.pict1.top + y - label.height / 2.0);
     }
 }
 
@@ -81,9 +80,8 @@ void draw_linear_divisions(Frm2Time& frm, double steps) {
     for (int i = 1; i <= std::floor(steps); ++i) draw_mark(frm, area, area.height - area.height * 0.9 * i / steps);
 }
 
-void show_upper_maximum(Frm2Time& frm, const std::string& text) {
-    show_label(frm.pict1.canvas, frm.lblMaxCps, text, frm.pict1.left - frm.lblMaxCps.width,
-               frm.pict1.top + frm.pict1.height * 0.1);
+void show_maximum(Picture& plot, Label& label, const std::string& text) {
+    show_label(plot.canvas, label, text, plot.left - label.width, plot.top + plot.height * 0.1 - label.height / 2.0);
 }
 
 }  // namespace plot

@@ -37,7 +37,7 @@ void draw_pict1(Context& context) {
     if (rs.MaxCps > 0 && !rs.LinearView) rs.MaxCps = logarithm(rs.MaxCps);
     rs.FullMax = rs.MaxCps;
     plot::take_entered_limit(rs.YMaxEntry, rs.MaxCps);
-    plot::show_upper_maximum(frm, Format(rs.MaxCps, "0.0"));
+    plot::show_maximum(frm.pict1, frm.lblMaxCps, Format(rs.MaxCps, "0.0"));
 
     const plot::Scale scale(area.height, rs.MaxCps, rs.LinearView);
     const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
@@ -48,6 +48,7 @@ void draw_pict1(Context& context) {
     }
 
     if (!rs.LinearView) {
+        plot::hide_label(area.canvas, frm.lblMaxCps);
         // The decades count the digits of the logarithm's logarithm here, so that hardly ever one is marked; the plot
         // of all curves counts those of the maximum itself.
         if (rs.MaxCps != 0) rs.MaxCps = logarithm(std::fabs(rs.MaxCps));
@@ -64,13 +65,12 @@ void draw_pict2(Context& context) {
     const plot::Area area = plot::lower_area(frm);
     area.canvas.Clear();
     plot::draw_interval_lines(rs, area);
-    plot::show_lower_maximum(frm, frm.lblMaxIIS, Format(rs.MaxRatio, "0.000"));
+    plot::show_maximum(frm.pict2, frm.lblMaxIIS, Format(rs.MaxRatio, "0.000"));
     const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
     for (const auto& [column, colour] : single_curves(rs)) {
         if (column == 0) continue;
-        const plot::LowerCurve curve = rs.setRatio_ppmIS.val() == 1
-                                           ? plot::concentration_curve(rs, column, colour)
-                                           : plot::standard_ratio_curve(rs, column, colour);
+        const plot::LowerCurve curve = rs.setRatio_ppmIS.val() == 1 ? plot::concentration_curve(rs, column, colour)
+                                                                    : plot::standard_ratio_curve(rs, column, colour);
         plot::draw_lower_curve(area, x, curve, rs.MaxRatio);
     }
 }

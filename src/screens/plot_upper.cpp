@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
@@ -7,6 +7,12 @@
 
 namespace kolvar {
 namespace {
+
+bool any_curve_chosen(const RunState& rs) {
+    for (int j = 1; j <= plot::drawable_columns(rs); ++j)
+        if (rs.CurveOn(j)) return true;
+    return false;
+}
 
 double highest_signal(const RunState& rs) {
     double highest = 0;
@@ -23,7 +29,6 @@ void draw_upper_plot(Context& context) {
     RunState& rs = context.rs;
     Frm2Time& frm = context.forms.frm2_Time;
     rs.MaxCps = highest_signal(rs);
-    const bool any = rs.MaxCps > 0;
     plot::take_entered_limit(rs.YMaxEntry, rs.MaxCps);
     frm.lbluppScal.text = decimal(rs.MaxCps);
     const NiceEnd end = NiceScale(rs.MaxCps);
@@ -33,13 +38,15 @@ void draw_upper_plot(Context& context) {
         rs.FullMax = rs.MaxCps;
         rs.ScaleFresh = rs.AutoScale1 = false;
     }
-    plot::show_upper_maximum(frm, Format(rs.MaxCps, "0"));
+    plot::show_maximum(frm.pict1, frm.lblMaxCps, Format(rs.MaxCps, "0"));
     if (rs.MaxCps > 0 && !rs.LinearView) rs.MaxCps = logarithm(rs.MaxCps);
 
-    if (!rs.LinearView)
-        plot::draw_decades(frm, end.maximum);
-    else if (any)
+    if (!rs.LinearView) plot::hide_label(frm.pict1.canvas, frm.lblMaxCps);
+    if (!any_curve_chosen(rs)) return;  // the intervals alone, without a scale
+    if (rs.LinearView)
         plot::draw_linear_divisions(frm, rs.ScaleStep);
+    else
+        plot::draw_decades(frm, end.maximum);
 
     const plot::Area area = plot::upper_area(frm);
     const plot::Scale scale(area.height, rs.MaxCps, rs.LinearView);

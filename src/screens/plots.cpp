@@ -53,8 +53,7 @@ void hide_label(Canvas& canvas, Label& label) {
 bool blank_is_marked_here(const RunState& rs) { return rs.BlankFromData == 1 && rs.ModeCreateBLK != 1; }
 
 void hide_scale_labels(Frm2Time& frm) {
-    for (Label* label :
-         {&frm.lbl10, &frm.lbl100, &frm.lbl1000, &frm.lbl10k, &frm.lbl100k, &frm.lbl1m, &frm.lbl10m})
+    for (Label* label : {&frm.lbl10, &frm.lbl100, &frm.lbl1000, &frm.lbl10k, &frm.lbl100k, &frm.lbl1m, &frm.lbl10m})
         hide_label(frm.pict1.canvas, *label);
     hide_label(frm.pict2.canvas, frm.lblRatios);
 }
@@ -79,10 +78,6 @@ void show_guides(Context& context) {
     place_limit_labels(context);
     frm.lblMeasSel.text = rs.SelN.val() > 0 ? rs.SelN.text() : std::string();
     rs.BlkN = rs.BlkUpp.val() - rs.BlkLow.val() + 1;
-}
-
-void show_lower_maximum(Frm2Time& frm, Label& label, const std::string& text) {
-    show_label(frm.pict2.canvas, label, text, frm.pict2.left - label.width, frm.pict2.top + frm.pict2.height * 0.1);
 }
 
 Colour curve_colour(int column) {
