@@ -10,8 +10,8 @@ namespace kolvar {
 // Empties the measurement that is being replaced.
 void ClearData(RunState& rs);
 
-// Read the file DataFilePath by their profile; `path` is used in the error text alone. Each ends in AfterImport. A fault
-// shows a warning; what was read so far stays, and AfterImport does not run.
+// Read the file DataFilePath by their profile; `path` is used in the error text alone. Each ends in AfterImport. A
+// fault shows a warning; what was read so far stays, and AfterImport does not run.
 void LoadCSV(Context& context, const std::string& path);
 void LoadTXT(Context& context, const std::string& path);
 void LoadXL(Context& context, const std::string& path);
