@@ -116,6 +116,11 @@ std::string join_path(std::string_view folder, std::string_view name) {
     return out + native_path(name);
 }
 
+bool is_relative_path(const std::string& path) {
+    const std::string native = native_path(path);
+    return !native.empty() && native.front() != '/';
+}
+
 std::string file_name(std::string_view path) {
     const std::size_t at = last_separator(path);
     return std::string(at == std::string_view::npos ? path : path.substr(at + 1));
