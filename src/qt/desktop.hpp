@@ -8,9 +8,12 @@
 
 #include "screens/program.hpp"
 
+class QAction;
 class QWidget;
 
 namespace kolvar {
+
+class FormWindow;
 
 class Desktop : public QObject {
     Q_OBJECT
@@ -24,8 +27,10 @@ public:
     void sync();
     // The Qt window of a form, made at its first showing; nullptr before.
     [[nodiscard]] QWidget* window(const Form& form) const;
-    // The widget of a control (its objectName is the control's address); nullptr before its window was made.
+    // The widget of a control (its objectName is the control's address); nullptr before its window was made, and for
+    // menus and their entries, which are actions.
     [[nodiscard]] QWidget* widget(const Control& control) const;
+    [[nodiscard]] QAction* action(const Control& control) const;
 
     // Sends an event to the dispatcher, as the widgets do.
     void send(const Event& event);
@@ -35,9 +40,15 @@ signals:
     void ended(int status);
 
 private:
-    struct Window;
+    FormWindow* make_window(Form& form);
+    [[nodiscard]] FormWindow* find_window(const Form& form) const;
+    void tell_end();
+
     Program& program_;
-    std::map<const Form*, std::unique_ptr<Window>> windows_;
+    std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+    Form* active_ = nullptr;
+    bool syncing_ = false;
+    bool told_end_ = false;
 };
 
 }  // namespace kolvar

@@ -1,1 +1,0 @@
-// Keeps the floor a library until its first source.

@@ -1,0 +1,197 @@
+#include "qt/grid_view.hpp"
+
+#include <QBrush>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "qt/canvas_painter.hpp"
+#include "qt/text.hpp"
+#include "qt/widgets.hpp"
+
+namespace kolvar {
+
+namespace {
+
+constexpr int usual_width = 900;  // twips
+
+QVariant cell_data(const Grid::Cell& cell, int role) {
+    switch (role) {
+        case Qt::DisplayRole:
+            return shown(cell.text);
+        case Qt::BackgroundRole:
+            return QBrush(qt_colour(cell.back));
+        case Qt::ForegroundRole:
+            return QBrush(qt_colour(cell.fore));
+        default:
+            return {};
+    }
+}
+
+// A header in the colours of its cells; white ones look like a header.
+class CellHeader : public QHeaderView {
+public:
+    CellHeader(Qt::Orientation orientation, QWidget* parent) : QHeaderView(orientation, parent) {
+        setSectionsClickable(true);
+        setHighlightSections(false);
+    }
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int section) const override {
+        if (!rect.isValid() || model() == nullptr) return;
+        const auto back = model()->headerData(section, orientation(), Qt::BackgroundRole).value<QBrush>();
+        const auto fore = model()->headerData(section, orientation(), Qt::ForegroundRole).value<QBrush>();
+        painter->save();
+        painter->fillRect(rect, back.color() == Qt::white ? QColor(0xEC, 0xEC, 0xEC) : back.color());
+        painter->setPen(QColor(0xB8, 0xB8, 0xB8));
+        painter->drawLine(rect.topRight(), rect.bottomRight());
+        painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+        painter->setPen(fore.color());
+        const Qt::Alignment side = orientation() == Qt::Vertical ? Qt::AlignLeft : Qt::AlignHCenter;
+        painter->drawText(rect.adjusted(4, 0, -4, 0), static_cast<int>(side | Qt::AlignVCenter),
+                          model()->headerData(section, orientation(), Qt::DisplayRole).toString());
+        painter->restore();
+    }
+};
+
+}  // namespace
+
+int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : std::max(0, rows_ - 1); }
+int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : std::max(0, cols_ - 1); }
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    const int row = index.row() + 1, col = index.column() + 1;
+    if (row >= grid_.rows || col >= grid_.cols) return {};
+    if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+    return cell_data(grid_.cell(row, col), role);
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const int row = orientation == Qt::Horizontal ? 0 : section + 1;
+    const int col = orientation == Qt::Horizontal ? section + 1 : 0;
+    if (row >= grid_.rows || col >= grid_.cols) return {};
+    return cell_data(grid_.cell(row, col), role);
+}
+
+bool GridModel::refresh() {
+    if (rows_ != grid_.rows || cols_ != grid_.cols) {
+        beginResetModel();
+        rows_ = grid_.rows;
+        cols_ = grid_.cols;
+        endResetModel();
+        return true;
+    }
+    if (rows_ > 1 && cols_ > 1) emit dataChanged(index(0, 0), index(rows_ - 2, cols_ - 2));
+    if (cols_ > 1) emit headerDataChanged(Qt::Horizontal, 0, cols_ - 2);
+    if (rows_ > 1) emit headerDataChanged(Qt::Vertical, 0, rows_ - 2);
+    return false;
+}
+
+GridView::GridView(const Grid& grid, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(new GridModel(grid, this)), corner_(new LabelView(this)) {
+    setHorizontalHeader(new CellHeader(Qt::Horizontal, this));
+    setVerticalHeader(new CellHeader(Qt::Vertical, this));
+    setModel(model_);
+    setSelectionMode(NoSelection);
+    setEditTriggers(NoEditTriggers);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    const int row_height = fontMetrics().height() + 6;
+    for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
+        header->setMinimumSectionSize(10);
+        header->setSectionResizeMode(header == verticalHeader() ? QHeaderView::Fixed : QHeaderView::Interactive);
+    }
+    verticalHeader()->setDefaultSectionSize(row_height);
+    horizontalHeader()->setFixedHeight(row_height + 2);
+
+    corner_->setAutoFillBackground(true);
+    corner_->setIndent(4);
+    corner_->elide(Qt::ElideRight);
+
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& at) {
+        if (on_click) on_click(at.row() + 1, at.column() + 1);
+    });
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& at) {
+        if (on_dblclick) on_dblclick(at.row() + 1, at.column() + 1);
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+        if (on_click) on_click(0, section + 1);
+    });
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+        if (on_click) on_click(section + 1, 0);
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, [this](int section) {
+        if (on_dblclick) on_dblclick(0, section + 1);
+    });
+    connect(verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [this](int section) {
+        if (on_dblclick) on_dblclick(section + 1, 0);
+    });
+    corner_->on_click = [this] {
+        if (on_click) on_click(0, 0);
+    };
+}
+
+void GridView::refresh() {
+    if (revision_ == grid_.revision && widths_ == grid_.column_widths) return;
+    revision_ = grid_.revision;
+    model_->refresh();
+    if (widths_ != grid_.column_widths || cols_ != grid_.cols) set_widths();
+    if (grid_.rows > 0 && grid_.cols > 0) {
+        const Grid::Cell& cell = grid_.cell(0, 0);
+        corner_->setText(shown(cell.text));
+        QPalette colours = palette();
+        colours.setColor(QPalette::Window,
+                         cell.back == kolvar::palette(15) ? QColor(0xEC, 0xEC, 0xEC) : qt_colour(cell.back));
+        colours.setColor(QPalette::WindowText, qt_colour(cell.fore));
+        corner_->setPalette(colours);
+    }
+    place_corner();
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+    verticalHeader()->viewport()->update();
+}
+
+void GridView::set_widths() {
+    widths_ = grid_.column_widths;
+    cols_ = grid_.cols;
+    const auto width_of = [this](int col) {
+        if (widths_.empty()) return pixels(usual_width);
+        return pixels(widths_[std::min(static_cast<std::size_t>(col), widths_.size() - 1)]);
+    };
+    verticalHeader()->setFixedWidth(width_of(0));
+    // The last width counts for all further columns.
+    horizontalHeader()->setDefaultSectionSize(width_of(cols_));
+    for (int col = 1; col < std::min(cols_, static_cast<int>(widths_.size())); ++col)
+        horizontalHeader()->resizeSection(col - 1, width_of(col));
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    const QModelIndex at = currentIndex();
+    if (event->key() == Qt::Key_Space && at.isValid()) {
+        if (on_click) on_click(at.row() + 1, at.column() + 1);
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    place_corner();
+}
+
+void GridView::updateGeometries() {
+    QTableView::updateGeometries();
+    place_corner();
+}
+
+void GridView::place_corner() {
+    if (corner_ == nullptr) return;
+    corner_->setGeometry(frameWidth(), frameWidth(), verticalHeader()->width(), horizontalHeader()->height());
+    corner_->raise();
+}
+
+}  // namespace kolvar

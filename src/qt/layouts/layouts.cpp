@@ -1,0 +1,19 @@
+#include "qt/layouts/layouts.hpp"
+
+namespace kolvar {
+
+void lay_out(FormWindow& window, const Form& form, Program& program) {
+    const Forms& forms = program.forms();
+    if (&form == &forms.frm1_Settings) lay_out_settings(window, forms.frm1_Settings);
+    if (&form == &forms.frm2_Time) lay_out_time(window, forms.frm2_Time, program.state());
+    if (&form == &forms.frm3_Matrix) lay_out_matrix(window, forms.frm3_Matrix);
+    if (&form == &forms.frm4_Output) lay_out_output(window, forms.frm4_Output);
+    if (&form == &forms.frm5_Preview) lay_out_preview(window, forms.frm5_Preview);
+    if (&form == &forms.frm_Dwell) lay_out_dwell(window, forms.frm_Dwell);
+    if (&form == &forms.frm_MissingIso) lay_out_missing(window, forms.frm_MissingIso);
+    if (&form == &forms.frm_Omit) lay_out_omit(window, forms.frm_Omit);
+    if (&form == &forms.frm_ChoseDir) lay_out_folder(window, forms.frm_ChoseDir);
+    if (&form == &forms.frm_AverConc) lay_out_averages(window, forms.frm_AverConc);
+}
+
+}  // namespace kolvar

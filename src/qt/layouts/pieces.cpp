@@ -1,0 +1,58 @@
+#include "qt/layouts/pieces.hpp"
+
+namespace kolvar {
+
+namespace {
+
+LabelView& label_of(FormWindow& window, const Control& control) { return *static_cast<LabelView*>(window.of(control)); }
+
+}  // namespace
+
+LabelView& value_field(FormWindow& window, const Control& label) {
+    LabelView& field = label_of(window, label);
+    field.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    field.elide(Qt::ElideMiddle);
+    field.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return field;
+}
+
+LabelView& wrapping(FormWindow& window, const Control& label) {
+    LabelView& text = label_of(window, label);
+    text.setWordWrap(true);
+    return text;
+}
+
+LabelView& bold(FormWindow& window, const Control& label) {
+    LabelView& head = label_of(window, label);
+    QFont font = head.font();
+    font.setBold(true);
+    head.setFont(font);
+    return head;
+}
+
+ButtonView& button(FormWindow& window, const Control& control) { return *static_cast<ButtonView*>(window.of(control)); }
+
+QHBoxLayout* row_of(FormWindow& window, std::initializer_list<const Control*> controls, int stretched) {
+    auto* row = new QHBoxLayout;
+    int at = 0;
+    for (const Control* control : controls) row->addWidget(window.of(*control), at++ == stretched ? 1 : 0);
+    if (stretched < 0) row->addStretch(1);
+    return row;
+}
+
+QVBoxLayout* column_of(FormWindow& window, std::initializer_list<const Control*> controls) {
+    auto* column = new QVBoxLayout;
+    for (const Control* control : controls) column->addWidget(window.of(*control));
+    return column;
+}
+
+QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*> left,
+                        std::initializer_list<const Control*> right) {
+    auto* row = new QHBoxLayout;
+    for (const Control* control : left) row->addWidget(window.of(*control));
+    row->addStretch(1);
+    for (const Control* control : right) row->addWidget(window.of(*control));
+    return row;
+}
+
+}  // namespace kolvar

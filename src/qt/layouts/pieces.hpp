@@ -1,0 +1,26 @@
+// Pieces that several layouts use.
+#pragma once
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <initializer_list>
+
+#include "qt/form_window.hpp"
+#include "qt/widgets.hpp"
+
+namespace kolvar {
+
+// A label that shows a value or a file name in a sunken field; a long text ends in dots.
+LabelView& value_field(FormWindow& window, const Control& label);
+LabelView& wrapping(FormWindow& window, const Control& label);
+LabelView& bold(FormWindow& window, const Control& label);
+ButtonView& button(FormWindow& window, const Control& control);
+
+// Widgets in a row or a column, in this order.
+QHBoxLayout* row_of(FormWindow& window, std::initializer_list<const Control*> controls, int stretched = -1);
+QVBoxLayout* column_of(FormWindow& window, std::initializer_list<const Control*> controls);
+// The buttons that lead on, at the right end of a row.
+QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*> left,
+                        std::initializer_list<const Control*> right);
+
+}  // namespace kolvar
