@@ -128,12 +128,18 @@ struct MatrixCase : ::testing::Test {
         if (cell.back == rgb(255, 192, 128)) return 'o';
         if (cell.back == rgb(255, 255, 225)) return 'p';
         switch (palette_number(cell.back)) {
-            case 15: return '.';
-            case 11: return 'c';
-            case 12: return 'r';
-            case 13: return 'm';
-            case 14: return 'y';
-            default: return '?';
+            case 15:
+                return '.';
+            case 11:
+                return 'c';
+            case 12:
+                return 'r';
+            case 13:
+                return 'm';
+            case 14:
+                return 'y';
+            default:
+                return '?';
         }
     }
 };
