@@ -58,6 +58,11 @@ TEST_F(PlotMarks, OneBlankLimitHasALineButNoTint) {
     draw_all(bench.context);
     EXPECT_EQ(commands(frm.pict1, DrawCommand::Kind::fill_rect).size(), 1U);
     EXPECT_EQ(lines(frm.pict1, palette(3)).size(), 1U);
+    rs.BlkLowX = 0;
+    rs.BlkUppX = 270;
+    draw_all(bench.context);
+    EXPECT_EQ(commands(frm.pict1, DrawCommand::Kind::fill_rect).size(), 1U);
+    EXPECT_EQ(lines(frm.pict1, palette(3)).size(), 1U);
 }
 
 TEST_F(PlotMarks, BlankIsNotTintedWhenABlankFileIsMade) {
