@@ -88,13 +88,10 @@ void FormWindow::report(const Control& control, EventKind kind, const std::funct
 }
 
 void FormWindow::show_first() {
+    const QSize hint = sizeHint();
+    form_.width = form_.width > 0 ? form_.width : hint.width() * twips_per_pixel;
+    form_.height = form_.height > 0 ? form_.height : hint.height() * twips_per_pixel;
     follow_size();
-    if (form_.width <= 0 || form_.height <= 0) {
-        const QSize hint = sizeHint();
-        syncing_ = true;
-        resize(hint);
-        syncing_ = false;
-    }
     syncing_ = true;
     show();
     syncing_ = false;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "qt/canvas_painter.hpp"
@@ -50,9 +51,30 @@ protected:
         painter->drawLine(rect.bottomLeft(), rect.bottomRight());
         painter->setPen(fore.color());
         const Qt::Alignment side = orientation() == Qt::Vertical ? Qt::AlignLeft : Qt::AlignHCenter;
-        painter->drawText(rect.adjusted(4, 0, -4, 0), static_cast<int>(side | Qt::AlignVCenter),
-                          model()->headerData(section, orientation(), Qt::DisplayRole).toString());
+        painter->drawText(
+            rect.adjusted(4, 0, -4, 0), static_cast<int>(side | Qt::AlignVCenter),
+            fontMetrics().elidedText(model()->headerData(section, orientation(), Qt::DisplayRole).toString(),
+                                     Qt::ElideRight, rect.width() - 6));
         painter->restore();
+    }
+};
+
+// A cell in its colours; the one with the keyboard's focus has a dotted frame.
+class CellPainter : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const auto back = index.data(Qt::BackgroundRole).value<QBrush>();
+        const auto fore = index.data(Qt::ForegroundRole).value<QBrush>();
+        painter->fillRect(option.rect, back);
+        painter->setPen(fore.color());
+        painter->drawText(
+            option.rect.adjusted(3, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, option.rect.width() - 5));
+        if (!(option.state & QStyle::State_HasFocus)) return;
+        painter->setPen(QPen(fore.color(), 1, Qt::DotLine));
+        painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
     }
 };
 
@@ -64,6 +86,7 @@ int GridModel::columnCount(const QModelIndex& parent) const { return parent.isVa
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     const int row = index.row() + 1, col = index.column() + 1;
     if (row >= grid_.rows || col >= grid_.cols) return {};
+    if (role == Qt::ToolTipRole && grid_.cell(row, col).text.size() > 7) return shown(grid_.cell(row, col).text);
     if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
     return cell_data(grid_.cell(row, col), role);
 }
@@ -94,6 +117,7 @@ GridView::GridView(const Grid& grid, QWidget* parent)
     setHorizontalHeader(new CellHeader(Qt::Horizontal, this));
     setVerticalHeader(new CellHeader(Qt::Vertical, this));
     setModel(model_);
+    setItemDelegate(new CellPainter(this));
     setSelectionMode(NoSelection);
     setEditTriggers(NoEditTriggers);
     setWordWrap(false);
@@ -139,7 +163,7 @@ void GridView::refresh() {
     if (revision_ == grid_.revision && widths_ == grid_.column_widths) return;
     revision_ = grid_.revision;
     model_->refresh();
-    if (widths_ != grid_.column_widths || cols_ != grid_.cols) set_widths();
+    set_widths();
     if (grid_.rows > 0 && grid_.cols > 0) {
         const Grid::Cell& cell = grid_.cell(0, 0);
         corner_->setText(shown(cell.text));
@@ -155,18 +179,40 @@ void GridView::refresh() {
     verticalHeader()->viewport()->update();
 }
 
+// Room that the texts of these cells need; longer ones than so many characters end in dots. Of very many cells some are
+// looked at.
+int GridView::widest(int first_row, int last_row, int first_col, int last_col, int longest) const {
+    constexpr int most = 64;
+    const int step = std::max(1, (last_col - first_col) / most), row_step = std::max(1, (last_row - first_row) / 256);
+    int room = 0;
+    for (int row = first_row; row <= last_row; row += row_step)
+        for (int col = first_col; col <= last_col; col += step) {
+            const std::string& text = grid_.cell(row, col).text;
+            if (!text.empty() && text.size() <= static_cast<std::size_t>(longest))
+                room = std::max(room, fontMetrics().horizontalAdvance(shown(text)));
+        }
+    return room + 10;
+}
+
+// The widths of the model are the least; where the font of the desktop needs more, there is more.
 void GridView::set_widths() {
-    widths_ = grid_.column_widths;
-    cols_ = grid_.cols;
-    const auto width_of = [this](int col) {
-        if (widths_.empty()) return pixels(usual_width);
-        return pixels(widths_[std::min(static_cast<std::size_t>(col), widths_.size() - 1)]);
+    const std::vector<int>& widths = grid_.column_widths;
+    const auto width_of = [&widths](int col) {
+        if (widths.empty()) return pixels(usual_width);
+        return pixels(widths[std::min(static_cast<std::size_t>(col), widths.size() - 1)]);
     };
-    verticalHeader()->setFixedWidth(width_of(0));
+    const int set = static_cast<int>(widths.size());
+    const int names = std::max(width_of(0), widest(0, grid_.rows - 1, 0, 0, 45));
+    const int cells = std::max(width_of(set), widest(0, grid_.rows - 1, std::max(1, set - 1), grid_.cols - 1, 12));
+    if (widths_ == widths && cols_ == grid_.cols && name_width_ == names && cell_width_ == cells) return;
+    widths_ = widths;
+    cols_ = grid_.cols;
+    name_width_ = names;
+    cell_width_ = cells;
+    verticalHeader()->setFixedWidth(names);
     // The last width counts for all further columns.
-    horizontalHeader()->setDefaultSectionSize(width_of(cols_));
-    for (int col = 1; col < std::min(cols_, static_cast<int>(widths_.size())); ++col)
-        horizontalHeader()->resizeSection(col - 1, width_of(col));
+    horizontalHeader()->setDefaultSectionSize(cells);
+    for (int col = 1; col < std::min(cols_, set - 1); ++col) horizontalHeader()->resizeSection(col - 1, width_of(col));
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {

@@ -45,13 +45,14 @@ protected:
 private:
     void place_corner();
     void set_widths();
+    [[nodiscard]] int widest(int first_row, int last_row, int first_col, int last_col, int longest) const;
 
     const Grid& grid_;
     GridModel* model_;
     LabelView* corner_;
     std::uint64_t revision_ = ~std::uint64_t{0};
     std::vector<int> widths_;
-    int cols_ = -1;
+    int cols_ = -1, name_width_ = 0, cell_width_ = 0;  // logical pixels
 };
 
 }  // namespace kolvar

@@ -14,6 +14,10 @@
 
 namespace kolvar {
 
+namespace {
+constexpr int side_room = 4;  // between the caption of a button and its edge
+}  // namespace
+
 const char* const CheckView::drag_format = "application/x-kolvar-control";
 
 LabelView::LabelView(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
@@ -100,7 +104,7 @@ QSize ButtonView::sizeHint() const {
         return {std::max(80, text + room.width() + 8), std::max(26, height)};
     }
     const int width = line_width_ + margins().width();
-    return {width, heightForWidth(width)};
+    return {width, heightForWidth(width)};  // wraps
 }
 
 QSize ButtonView::minimumSizeHint() const {
@@ -110,7 +114,7 @@ QSize ButtonView::minimumSizeHint() const {
 
 int ButtonView::heightForWidth(int width) const {
     const QSize room = margins();
-    const QRect text = fontMetrics().boundingRect(QRect(0, 0, std::max(20, width - room.width()), 10000),
+    const QRect text = fontMetrics().boundingRect(QRect(0, 0, std::max(20, width - 2 * side_room), 10000),
                                                   Qt::TextWordWrap | Qt::AlignCenter, caption_);
     return std::max(26, text.height() + room.height());
 }
@@ -121,7 +125,7 @@ void ButtonView::paintEvent(QPaintEvent*) {
     initStyleOption(&option);
     option.text.clear();
     painter.drawControl(QStyle::CE_PushButton, option);
-    QRect room = rect().adjusted(4, 2, -4, -2);
+    QRect room = rect().adjusted(side_room, 2, -side_room, -2);
     if (option.state & QStyle::State_Sunken)
         room.translate(style()->pixelMetric(QStyle::PM_ButtonShiftHorizontal, &option, this),
                        style()->pixelMetric(QStyle::PM_ButtonShiftVertical, &option, this));

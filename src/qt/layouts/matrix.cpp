@@ -22,6 +22,8 @@ void lay_out_matrix(FormWindow& window, const Frm3Matrix& f) {
     marks->setRowStretch(3, 1);
     marks->setColumnStretch(1, 1);
 
+    for (const auto& [box, legend] : legends) window.of(*legend)->setFixedSize(150, 100);
+
     auto* tests = new QGridLayout;
     window.of(f.txtSD)->setFixedWidth(60);
     window.of(f.comboProc)->setFixedWidth(80);
@@ -32,10 +34,19 @@ void lay_out_matrix(FormWindow& window, const Frm3Matrix& f) {
     tests->addWidget(window.of(f.chkGrubbs), 2, 0);
     tests->addWidget(window.of(f.comboProc), 2, 1, 1, 2, Qt::AlignLeft);
     tests->addWidget(window.of(f.cmdReset), 3, 0, 1, 3);
+    tests->setRowStretch(4, 1);
 
-    auto* head = row_of(window, {&f.lblFile, &f.lblSlices, &f.lblIsotopes});
-    head->setSpacing(18);
-    bold(window, f.lblFile);
+    auto* head = new QHBoxLayout;
+    const std::pair<const char*, const Label*> facts[] = {{"Data File:", &f.lblFile},
+                                                          {"Time slices:", &f.lblSlices},
+                                                          {"Selected:", &f.lblSelected},
+                                                          {"Isotopes:", &f.lblIsotopes}};
+    for (const auto& [words, label] : facts) {
+        head->addWidget(caption(window, words));
+        head->addWidget(&bold(window, *label));
+        head->addSpacing(18);
+    }
+    head->addStretch(1);
     auto* top = new QHBoxLayout;
     top->addWidget(window.of(f.frameView));
     top->addSpacing(10);

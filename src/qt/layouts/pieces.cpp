@@ -11,6 +11,7 @@ LabelView& label_of(FormWindow& window, const Control& control) { return *static
 LabelView& value_field(FormWindow& window, const Control& label) {
     LabelView& field = label_of(window, label);
     field.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    field.setMargin(2);
     field.elide(Qt::ElideMiddle);
     field.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return field;
@@ -44,6 +45,12 @@ QVBoxLayout* column_of(FormWindow& window, std::initializer_list<const Control*>
     auto* column = new QVBoxLayout;
     for (const Control* control : controls) column->addWidget(window.of(*control));
     return column;
+}
+
+QLabel* caption(FormWindow& window, const char* text) {
+    auto* label = new QLabel(QString::fromLatin1(text), window.body());
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*> left,

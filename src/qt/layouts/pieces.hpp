@@ -19,6 +19,8 @@ ButtonView& button(FormWindow& window, const Control& control);
 // Widgets in a row or a column, in this order.
 QHBoxLayout* row_of(FormWindow& window, std::initializer_list<const Control*> controls, int stretched = -1);
 QVBoxLayout* column_of(FormWindow& window, std::initializer_list<const Control*> controls);
+// A caption that the layout adds: the program knows nothing of it.
+QLabel* caption(FormWindow& window, const char* text);
 // The buttons that lead on, at the right end of a row.
 QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*> left,
                         std::initializer_list<const Control*> right);

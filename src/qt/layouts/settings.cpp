@@ -47,10 +47,7 @@ void lay_out_standards(FormWindow& window, const Frm1Settings& f) {
     for (const Control* list : {&f.comboIso, &f.comboIso2, &f.comboIso3}) window.of(*list)->setMinimumWidth(110);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
-    auto* column = new QVBoxLayout;
-    column->addLayout(grid);
-    column->addStretch(1);
-    window.of(f.frameIntStd)->setLayout(column);
+    window.of(f.frameIntStd)->setLayout(grid);
     bold(window, f.lblIntHead);
 }
 
@@ -83,7 +80,9 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
     auto* sides = new QHBoxLayout;
     sides->addLayout(files, 3);
     sides->addSpacing(8);
-    sides->addWidget(window.of(f.frameIntStd), 2);
+    auto* chosen = column_of(window, {&f.frameIntStd});
+    chosen->addStretch(1);
+    sides->addLayout(chosen, 2);
     auto* standards = new QVBoxLayout(window.of(f.pict_IS));
     standards->setContentsMargins(0, 0, 0, 0);
     standards->addLayout(sides, 1);

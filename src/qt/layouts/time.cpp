@@ -48,6 +48,8 @@ QWidget* lay_out_head(FormWindow& window, const Frm2Time& f) {
         bold(window, *value);
         window.of(*value)->setMinimumWidth(56);
     }
+    grid->addWidget(caption(window, "Maximum [cps]:"), 1, 6, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(&bold(window, f.lbluppScal), 1, 7);
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(8, 1);
     return strip;
@@ -186,10 +188,9 @@ void lay_out_time(FormWindow& window, const Frm2Time& f, const RunState& rs) {
     former.setColor(QPalette::Window, QColor(150, 150, 150));
     window.of(f.pictFormer)->setPalette(former);
     window.of(f.pictFormer)->setAutoFillBackground(true);
-    window.of(f.lblXNew)->setAutoFillBackground(true);
-    window.of(f.lblXNew2)->setAutoFillBackground(true);
-    for (const Control* above : std::initializer_list<const Control*>{&f.lblLow, &f.lblUpp, &f.pictRatios, &f.lblXNew,
-                                                                      &f.txtYMaxInp, &f.lblXNew2, &f.txtYMaxInp2})
+    for (const Label* label : {&f.lblXNew, &f.lblXNew2}) window.of(*label)->setAutoFillBackground(true);
+    for (const Control* above : std::initializer_list<const Control*>{
+             &f.lblIIS(2), &f.lblLow, &f.lblUpp, &f.pictRatios, &f.lblXNew, &f.txtYMaxInp, &f.lblXNew2, &f.txtYMaxInp2})
         window.of(*above)->raise();
 
     window.setMinimumSize(480, 320);
