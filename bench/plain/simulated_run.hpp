@@ -31,7 +31,7 @@ inline void simulate_run(RunState& rs, int columns, int slices, int blank, unsig
             const double mean = background + signal;
             rs.Sig(i, t) = std::max(0.0, std::floor((mean + noise(random) * std::sqrt(mean)) * 100) / 100);
         }
-        rs.IsoName(i) = rs.IsoCanon(i) = "X" + std::to_string(i);
+        rs.IsoName(i) = rs.IsoCanon(i) = std::to_string(i);
         rs.IsoOmit(i) = i % 11 == 7 ? 1 : 0;
         rs.IsoISidx(i) = i % 4 == 3 && columns > 5 ? 5 : 1;
         rs.IsoISconc(i) = 340000, rs.IsoISerr(i) = 3400;

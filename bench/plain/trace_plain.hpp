@@ -1,5 +1,6 @@
 // Blank, interval statistics and concentrations as plainly as they can be told: cell by cell through the tables of the
-// run state, every sum in the common cell. No faults are expected here. Beside it the fast ones must give the same bits.
+// run state, every sum in the common cell. No faults are expected here. Beside it the fast ones must give the same
+// bits.
 #pragma once
 
 #include <cmath>
@@ -91,8 +92,7 @@ inline void compute_selection_statistics(RunState& rs) {
         for (int t = low; t <= upp; ++t) rs.BlkSpikes += squared(rs.Ratio(i, t) - rs.RatioMean(i));
         rs.RatioSD(i) = not_zero(std::sqrt(rs.BlkSpikes / (n - 1)));
     }
-    for (int i = 1; i <= rs.nIso; ++i)
-        extreme_places(rs.Ratio, i, low, upp, 0, rs.RatioMinPos(i), rs.RatioMaxPos(i));
+    for (int i = 1; i <= rs.nIso; ++i) extreme_places(rs.Ratio, i, low, upp, 0, rs.RatioMinPos(i), rs.RatioMaxPos(i));
 }
 
 inline void means(RunState& rs) {

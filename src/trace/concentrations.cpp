@@ -40,9 +40,8 @@ AcceptedSums add_accepted(std::span<const double> net, std::span<const double> r
 void scale_by_standard(const RunState& rs, int i, double ratio, Cell& concentration) {
     const int standard = rs.IsoISidx(i);
     concentration = finite(ratio * quotient(rs.StdConc(i).number(), rs.StdCps(i).number()));
-    concentration = quotient(
-        finite(concentration.number() * finite(rs.IsoISconc(i) * rs.StdCps(standard).number())),
-        rs.StdConc(standard).number());
+    concentration = quotient(finite(concentration.number() * finite(rs.IsoISconc(i) * rs.StdCps(standard).number())),
+                             rs.StdConc(standard).number());
 }
 
 }  // namespace

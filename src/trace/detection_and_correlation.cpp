@@ -53,8 +53,8 @@ void detection_limits(RunState& rs) {
         }
         // The blank mean is added to its three s.d., and taken from the standard's cps although they hold no blank.
         const double blank = finite(finite(3 * rs.BlkSD(i).number()) + rs.BlkMean(i).number());
-        const double limit = quotient(finite(rs.StdConc(i).number() * blank),
-                                      finite(rs.StdCps(i).number() - rs.BlkMean(i).number()));
+        const double limit =
+            quotient(finite(rs.StdConc(i).number() * blank), finite(rs.StdCps(i).number() - rs.BlkMean(i).number()));
         rs.LoD(i) = reported_limit(limit);
     }
 }
@@ -70,8 +70,8 @@ void correlation(RunState& rs, const Interval& selection) {
         const double spread_x = finite(finite(n * sums.xx) - finite(sums.x * sums.x));
         const double spread_y = finite(finite(n * sums.yy) - finite(sums.y * sums.y));
         if (!(spread_x > 0) || !(spread_y > 0)) continue;
-        const double r = quotient(finite(finite(n * sums.xy) - finite(sums.x * sums.y)),
-                                  root(finite(spread_x * spread_y)));
+        const double r =
+            quotient(finite(finite(n * sums.xy) - finite(sums.x * sums.y)), root(finite(spread_x * spread_y)));
         // Without any correlation there is no sign to keep, and the calculation stops.
         rs.R2IsoIS(i) = finite(r * r) * quotient(r, std::abs(r));
         rs.R2IsoIS(i) = Val(Format(rs.R2IsoIS(i), "0.00"));

@@ -114,8 +114,7 @@ void ComputeBlank(RunState& rs, Platform& os) {
         [&](int i) { rs.BlkMean(i) = never_zero(quotient(rs.BlkSpikes, rs.BlkN)); });
     // About the mean as it is stored: a blank of zeros deviates a little from its mean of 0.0001.
     add_up_columns(
-        rs.BlkSpikes, rs.nIso, count,
-        [&](int i) { return squared_from(raw(i).data(), rs.BlkMean(i).held); },
+        rs.BlkSpikes, rs.nIso, count, [&](int i) { return squared_from(raw(i).data(), rs.BlkMean(i).held); },
         [&](int i) { rs.BlkSD(i) = never_zero(root(quotient(rs.BlkSpikes, rs.BlkN - 1))); });
     int spikes = 0;
     for (int i = 1; i <= rs.nIso; ++i)

@@ -73,9 +73,7 @@ TEST(SliceErrors, AFaultKeepsTheSlicesBefore) {
     const std::vector<Cell> ppm = {10.0, 10.0, 10.0};
     std::vector<Cell> error(3);
     ErrorTerms terms{.e3 = 1};
-    EXPECT_EQ(fault_of([&] {
-                  concentration::slice_errors(cells, standard, rejected, ppm, 1.0E-10, terms, error);
-              }),
+    EXPECT_EQ(fault_of([&] { concentration::slice_errors(cells, standard, rejected, ppm, 1.0E-10, terms, error); }),
               fault_text(FaultKind::overflow));
     EXPECT_TRUE(error[0].is_number());
     EXPECT_EQ(error[1], Cell());
@@ -108,8 +106,8 @@ TEST(SelectedMedian, EqualsRepeatedSelectionToTheLastBit) {
         std::vector<double> cells(static_cast<std::size_t>(length(random)));
         for (double& cell : cells) {
             cell = cps(random);
-            if (shape == 1) cell = few(random) * 0.1;                        // many equal cells, some 0
-            if (shape == 2) cell *= 1.0E6;                                   // on both sides of the clip
+            if (shape == 1) cell = few(random) * 0.1;  // many equal cells, some 0
+            if (shape == 2) cell *= 1.0E6;             // on both sides of the clip
             if (shape == 3) cell = few(random) < 0 ? -0.0 : few(random) > 0 ? 0.0 : cell - 1000;  // zeros of both signs
         }
         ASSERT_TRUE(same_bits(median(cells), plain::selected_median(cells))) << "round " << round;
@@ -142,16 +140,18 @@ TEST(IntervalKernels, ExtremesBeyondTheStartOfTheScanAreNone) {
 TEST(IntervalKernels, SumsOfColumnsSideBySideKeepTheOrderOfEachColumn) {
     // 1E16 + 1 - 1E16 is 0 in this order and would be 1 in another.
     const std::array<std::vector<double>, 6> columns = {{{1.0E16, 1, -1.0E16},
-                                                        {1, 1.0E16, -1.0E16},
-                                                        {1.0E16, -1.0E16, 1},
-                                                        {3, 4, 5},
-                                                        {0.1, 0.2, 0.3},
-                                                        {1.0E16, 1, -1.0E16}}};
+                                                         {1, 1.0E16, -1.0E16},
+                                                         {1.0E16, -1.0E16, 1},
+                                                         {3, 4, 5},
+                                                         {0.1, 0.2, 0.3},
+                                                         {1.0E16, 1, -1.0E16}}};
     double cell = -1;
     std::vector<double> sums;
     add_up_columns(
         cell, 6, 3,
-        [&](int i) { return [data = columns[static_cast<std::size_t>(i - 1)].data()](std::size_t t) { return data[t]; }; },
+        [&](int i) {
+            return [data = columns[static_cast<std::size_t>(i - 1)].data()](std::size_t t) { return data[t]; };
+        },
         [&](int) { sums.push_back(cell); });
     EXPECT_EQ(sums, (std::vector<double>{0, 0, 1, 12, 0.1 + 0.2 + 0.3, 0}));
     EXPECT_EQ(cell, 0);

@@ -173,8 +173,7 @@ TEST_F(Concentrations, ASliceWithoutStandardIsXxInBothTablesYetCounted) {
     EXPECT_EQ(rs.nData(2), 4);
     // The marks are no positive concentrations: the deviations are those of the two other slices, over 3.
     const double mean = 0.1875 * 750;
-    EXPECT_DOUBLE_EQ(rs.ConcSD(2).held,
-                     std::sqrt(((375 - mean) * (375 - mean) + (187.5 - mean) * (187.5 - mean)) / 3));
+    EXPECT_DOUBLE_EQ(rs.ConcSD(2).held, std::sqrt(((375 - mean) * (375 - mean) + (187.5 - mean) * (187.5 - mean)) / 3));
 }
 
 TEST_F(Concentrations, SlicesThatAreNotPositiveLeaveTheSumButStayInTheDivisor) {
@@ -185,8 +184,7 @@ TEST_F(Concentrations, SlicesThatAreNotPositiveLeaveTheSumButStayInTheDivisor) {
     EXPECT_EQ(rs.ErrT(2, 4), Cell(Mark::xx));
     EXPECT_EQ(rs.ErrT(2, 5), Cell(Mark::xx));
     const double mean = 46.875;  // 1/16 x 750
-    EXPECT_DOUBLE_EQ(rs.ConcSD(2).held,
-                     std::sqrt(((375 - mean) * (375 - mean) + (187.5 - mean) * (187.5 - mean)) / 3));
+    EXPECT_DOUBLE_EQ(rs.ConcSD(2).held, std::sqrt(((375 - mean) * (375 - mean) + (187.5 - mean) * (187.5 - mean)) / 3));
 }
 
 TEST_F(Concentrations, AMeanOfZeroIsHeldAsATinyNumberSoThatTheRelativeErrorIsHuge) {
@@ -237,8 +235,8 @@ TEST_F(Concentrations, AnOmittedColumnShowsDashesAndIsNotCounted) {
     EXPECT_EQ(rs.ConcSE(3), dashes);
     EXPECT_EQ(rs.RelErr(3), dashes);
     EXPECT_EQ(rs.LoD(3), Value("---"));
-    EXPECT_EQ(rs.AvCps(3), 66);     // without a blank the former mean stays
-    EXPECT_EQ(rs.R2IsoIS(3), 1);    // omitted columns are correlated: 1 2 1 4 against 100 200 100 400
+    EXPECT_EQ(rs.AvCps(3), 66);   // without a blank the former mean stays
+    EXPECT_EQ(rs.R2IsoIS(3), 1);  // omitted columns are correlated: 1 2 1 4 against 100 200 100 400
     EXPECT_TRUE(os.boxes.empty());
 }
 
@@ -301,8 +299,8 @@ TEST_F(Concentrations, TermsSurviveFromOneCalculationToTheNext) {
 TEST_F(Concentrations, TheDwellTimeOfTheColumnCountsForItsStandardToo) {
     rs.Dwell(1) = 0.5;
     compute();
-    EXPECT_EQ(rs.e4, 1.0 / 5);   // 500 x 0.01
-    EXPECT_EQ(rs.e2, 1.0 / 4);   // 400 x 0.01
+    EXPECT_EQ(rs.e4, 1.0 / 5);  // 500 x 0.01
+    EXPECT_EQ(rs.e2, 1.0 / 4);  // 400 x 0.01
 }
 
 TEST_F(Concentrations, WithoutDwellTimeAPositiveSliceEndsInTheBoxAndTheResultsBeforeStay) {

@@ -55,8 +55,8 @@ void expect_same_results(const RunState& a, const RunState& b) {
     expect_same("R2IsoIS", a.R2IsoIS, b.R2IsoIS);
     expect_same("AccCpsSD", a.AccCpsSD, b.AccCpsSD);
     expect_same("AccCpsSE", a.AccCpsSE, b.AccCpsSE);
-    for (const auto term : {&RunState::e1, &RunState::e2, &RunState::e3, &RunState::e4, &RunState::e5, &RunState::e6,
-                            &RunState::e7})
+    for (const auto term :
+         {&RunState::e1, &RunState::e2, &RunState::e3, &RunState::e4, &RunState::e5, &RunState::e6, &RunState::e7})
         EXPECT_TRUE(same(a.*term, b.*term));
 }
 

@@ -67,7 +67,7 @@ TEST_F(Blank, DividesByTheCountThatTheSelectionSet) {
     blank(1, 3);
     rs.BlkN = 4;
     ComputeBlank(rs, os);
-    EXPECT_EQ(rs.BlkMean(1), Cell(3.0));                    // 12 / 4
+    EXPECT_EQ(rs.BlkMean(1), Cell(3.0));                      // 12 / 4
     EXPECT_DOUBLE_EQ(rs.BlkSD(1).held, std::sqrt(11.0 / 3));  // 1 + 1 + 9
 }
 
@@ -83,7 +83,8 @@ TEST_F(Blank, ADatumAtThreeDeviationsIsNoSpike) {
 TEST_F(Blank, SpikesOfAllIsotopesAreCountedTogetherAlsoOfOmittedOnes) {
     // One more quiet slice: the s.d. falls below 1, and both outer data lie beyond 3 of it.
     for (const char* name : {"Si29", "Y89"})
-        column(name, {100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 103, 97});
+        column(name,
+               {100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 103, 97});
     rs.IsoOmit(2) = 1;
     blank(1, 20);
     ComputeBlank(rs, os);
@@ -270,9 +271,9 @@ TEST_F(SelectionStatistics, ASliceWithoutStandardKeepsItsFormerRatioAndStaysInTh
     EXPECT_EQ(rs.Ratio(2, 2), 3);
     EXPECT_EQ(rs.Ratio(2, 3), 6);
     EXPECT_EQ(rs.Ratio(2, 4), 3);
-    EXPECT_EQ(rs.RatioMean(2), 2);                         // (3 + 3) / 3
-    EXPECT_EQ(rs.RatioSD(2), 3);                           // (1 + 16 + 1) / 2 = 9
-    EXPECT_EQ(rs.RatioMaxPos(2), 3);                       // the old 6
+    EXPECT_EQ(rs.RatioMean(2), 2);    // (3 + 3) / 3
+    EXPECT_EQ(rs.RatioSD(2), 3);      // (1 + 16 + 1) / 2 = 9
+    EXPECT_EQ(rs.RatioMaxPos(2), 3);  // the old 6
 }
 
 TEST_F(SelectionStatistics, TheCommonCellKeepsTheLastSumWhateverItsMeaning) {
