@@ -39,6 +39,12 @@ Call read_call(int argc, char** argv) {
     return call;
 }
 
+// Without a display there is nothing to raise or to size by hints; what else the surface complains of is shown.
+void show_complaint(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::cerr << text.toStdString() << "\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -48,6 +54,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    qInstallMessageHandler(show_complaint);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     std::setlocale(LC_NUMERIC, "C");  // the surface takes the locale of the machine over

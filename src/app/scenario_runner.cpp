@@ -61,7 +61,7 @@ std::vector<std::string> lines_of(const std::string& path) {
 class Run {
 public:
     Run(std::string file, const RunOptions& options, std::ostream& out, std::ostream& err)
-        : file_(std::move(file)), keep_going_(options.keep_going), err_(err),
+        : file_(std::move(file)), keep_going_(options.keep_going), watch_(options.watch), err_(err),
           session_(options.app_folder, out, err) {}
 
     int play(const std::vector<std::string>& lines) {
@@ -96,6 +96,7 @@ private:
             !print(session_, command, words) && !prepare(session_, command, words))
             throw Wrong{"unknown command " + command};
         if (!session_.os.unanswered.empty()) throw Wrong{session_.os.unanswered};
+        if (watch_ && session_.program != nullptr) watch_(*session_.program, *session_.desktop);
     }
 
     // At the end nothing is left over: no answer that nobody asked for, no message that nobody expected.
@@ -112,6 +113,7 @@ private:
 
     std::string file_;
     bool keep_going_;
+    std::function<void(Program&, const Desktop&)> watch_;
     std::ostream& err_;
     Session session_;
     int status_ = 0;
