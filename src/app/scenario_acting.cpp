@@ -130,6 +130,9 @@ void click(Session& session, Words& words) {
     carry_out(session, event, [&] {
         if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
             button->click();
+        } else if (auto* const picture = dynamic_cast<CanvasView*>(widget)) {
+            // Button down and up are commands of their own, so that a journal, which holds all three, plays true.
+            if (picture->on_click) picture->on_click();
         } else {
             left_click(widget);
         }
