@@ -52,8 +52,13 @@ RowStatistics statistics_of(const RunState& rs, View view, int row) {
     return out;
 }
 
+void check_slices(const RunState& rs, const Grid& grid) {
+    const int low = rs.SelLow.val();
+    if (low < 0 || low + grid.cols - 2 > MaxSlices) fail(FaultKind::index);
+}
+
 bool is_selected(const RunState& rs, int slice) {
-    return slice >= rs.SelLow.val() && slice < rs.SelLow.val() + rs.SelN.val();
+    return slice >= 0 && slice <= MaxSlices && slice >= rs.SelLow.val() && slice < rs.SelLow.val() + rs.SelN.val();
 }
 
 bool has_extremes(const RunState& rs, View view, int row) {

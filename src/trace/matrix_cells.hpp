@@ -58,6 +58,8 @@ struct RowStatistics {
 };
 RowStatistics statistics_of(const RunState& rs, View view, int row);
 
+// Fault(index) unless every column of the grid stands for a slice of the tables: the loops over cells don't check it.
+void check_slices(const RunState& rs, const Grid& grid);
 // A selected slice; positions left from an earlier selection are not.
 bool is_selected(const RunState& rs, int slice);
 // The column of the matrix that shows a slice.

@@ -43,6 +43,7 @@ void mark_deviations(Context& context) {
     const RunState& rs = context.rs;
     Frm3Matrix& form = context.forms.frm3_Matrix;
     const View view = view_of(form);
+    check_slices(rs, form.FlexGrid1);
     for (int i = 1; i <= rs.nIso; ++i) {
         if (!has_deviation(rs, view, i)) continue;
         const RowStatistics row = statistics_of(rs, view, i);

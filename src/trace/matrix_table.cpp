@@ -183,6 +183,7 @@ void FillTable(Context& context) {
     rs.NameColWidth = view == View::cps ? 1550 : 800;
     grid.column_widths = {rs.NameColWidth, 800};
 
+    check_slices(rs, grid);
     fill_headers(rs, view, grid);
     for (int row = 1; row < grid.rows; ++row) {
         const auto cells = row_of(grid, row);
@@ -199,6 +200,7 @@ void ReadRejections(Context& context) {
     const int first = rs.SelLow.val();
     const int slices = rs.SelN.val();
 
+    if (slices >= grid.cols) fail(FaultKind::index);
     rs.nRejected = 0;
     rs.RejManual = 0;
     rs.OutText.clear();

@@ -47,6 +47,7 @@ void for_deviating_rows(Context& context, double limit, Deviates&& deviates) {
     const RunState& rs = context.rs;
     Frm3Matrix& form = context.forms.frm3_Matrix;
     const View view = view_of(form);
+    check_slices(rs, form.FlexGrid1);
     for (int i = 1; i <= rs.nIso; ++i) {
         if (rs.CpsSD(i).is_dashes() || !has_deviation(rs, view, i)) continue;
         const RowStatistics row = statistics_of(rs, view, i);

@@ -320,5 +320,17 @@ TEST_F(MatrixTable, RejectionByHandIsReadBackFromTheColoursAlone) {
     EXPECT_EQ(rs.RejManual, 1);
 }
 
+TEST_F(MatrixTable, ASelectionBeyondTheTablesIsAFault) {
+    three_isotopes();
+    rs.SelLow = MaxSlices - 3;
+    EXPECT_THROW(FillTable(context), Fault);
+    form.txtSD.text = "3";
+    EXPECT_THROW(deviation(), Fault);
+    EXPECT_THROW(show_deviation(), Fault);
+    rs.SelLow = 2;
+    rs.SelN = 6;
+    EXPECT_THROW(ReadRejections(context), Fault);
+}
+
 }  // namespace
 }  // namespace kolvar::test
