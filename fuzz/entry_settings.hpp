@@ -1,0 +1,38 @@
+// The readers of the settings file and of the measured blank table.
+#pragma once
+
+#include "entries.hpp"
+#include "settings/reference_files.hpp"
+#include "settings/settings_file.hpp"
+
+namespace kolvar::fuzz {
+
+// A settings file that was read is written so that it reads back and is written the same.
+inline void settings(Bytes bytes) {
+    static RunState rs;
+    static SilentPlatform os;
+    static ScratchFile file("settings");
+    static ScratchFile written("settings-written");
+    os.warnings = 0;
+    ReadSettings(rs, os, file.write(bytes));
+    if (os.warnings != 0) return;
+    rs.SetFilePath = written.write({});
+    WriteSettings(rs, os);
+    const std::string first = read_bytes(rs.SetFilePath);
+    ReadSettings(rs, os, rs.SetFilePath);
+    WriteSettings(rs, os);
+    require(os.warnings == 0);
+    require(read_bytes(rs.SetFilePath) == first);
+}
+
+inline void blank_table(Bytes bytes) {
+    static RunState rs;
+    static ScratchFile file("blank");
+    bool faulted = false;
+    guarded([&] { LoadBlankTable(rs, file.write(bytes)); }, [&](const Fault&) { faulted = true; });
+    require(!faulted || (rs.nBLK == 0 && rs.nBLKraw == 0));
+    require(rs.nBLK <= MaxIso && rs.nBLKraw <= MaxSlices);
+    for (int i = 1; i <= rs.nBLK; ++i) require(std::isfinite(rs.BLKmean(i)) && std::isfinite(rs.BLKsd(i)));
+}
+
+}  // namespace kolvar::fuzz
