@@ -320,8 +320,7 @@ void read_mouse(Words& words, Event& event) {
 void press_picture(Session& session, const Control& picture, const Event& event) {
     carry_out(session, event, [&] {
         QWidget* const widget = session.desktop->widget(picture);
-        if (widget != nullptr && (widget->focusPolicy() & Qt::ClickFocus) != 0)
-            focus_on(widget, Qt::MouseFocusReason);
+        if (widget != nullptr && (widget->focusPolicy() & Qt::ClickFocus) != 0) focus_on(widget, Qt::MouseFocusReason);
         if (auto* const view = dynamic_cast<CanvasView*>(widget))
             view->press(event.button, event.shift, event.x, event.y);
     });
@@ -486,9 +485,11 @@ using Command = void (*)(Session&, Words&);
 
 Command find_command(const std::string& name) {
     static const std::map<std::string, Command> commands = {
-        {"start", start},   {"click", click},   {"dblclick", double_click}, {"type", type},       {"enter", enter},
-        {"leave", leave},   {"choose", choose}, {"scroll", scroll},         {"press", press},     {"release", release},
-        {"mark", mark},     {"drag", drag},     {"cell", cell},             {"resize", resize},   {"close", close}};
+        {"start", start},     {"click", click},   {"dblclick", double_click},
+        {"type", type},       {"enter", enter},   {"leave", leave},
+        {"choose", choose},   {"scroll", scroll}, {"press", press},
+        {"release", release}, {"mark", mark},     {"drag", drag},
+        {"cell", cell},       {"resize", resize}, {"close", close}};
     const auto found = commands.find(name);
     return found == commands.end() ? nullptr : found->second;
 }

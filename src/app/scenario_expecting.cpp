@@ -14,9 +14,7 @@ namespace {
 
 using Box = ScenarioPlatform::Box;
 
-std::string box_text(const Box& box) {
-    return box.kind + " " + json_text(box.text) + " title " + json_text(box.title);
-}
+std::string box_text(const Box& box) { return box.kind + " " + json_text(box.text) + " title " + json_text(box.title); }
 
 bool answered(const Box& box) { return !box.answer.empty(); }
 
@@ -93,8 +91,7 @@ void expect_file(Words& words) {
         if (bytes == expected) return;
         const auto differs = std::mismatch(bytes.begin(), bytes.end(), expected.begin(), expected.end());
         const auto line = 1 + std::count(bytes.begin(), differs.first, '\n');
-        throw Unmet{"file " + path + " to be the same as " + other,
-                    "a difference in line " + std::to_string(line)};
+        throw Unmet{"file " + path + " to be the same as " + other, "a difference in line " + std::to_string(line)};
     }
     const std::string text = words.text("what the file holds");
     words.finish();
@@ -140,8 +137,8 @@ void expect_cell(Session& session, Words& words) {
     const int row = words.whole("a row"), col = words.whole("a column");
     const std::string what = "cell " + name + " " + std::to_string(row) + " " + std::to_string(col);
     if (row < 0 || row >= grid.rows || col < 0 || col >= grid.cols)
-        throw Unmet{what, "a grid of " + std::to_string(grid.rows) + " rows and " + std::to_string(grid.cols) +
-                              " columns"};
+        throw Unmet{what,
+                    "a grid of " + std::to_string(grid.rows) + " rows and " + std::to_string(grid.cols) + " columns"};
     const Grid::Cell& cell = grid.cell(row, col);
     if (words.take("text")) {
         expect_text(what, words, cell.text);
@@ -181,10 +178,8 @@ void expect_focus(Session& session, Words& words) {
     const Form* const active = session.program->shell().active();
     if (active != &control.form)
         throw Unmet{"the focus in " + name, "window " + (active == nullptr ? "none" : active->name)};
-    const bool inside =
-        widget != nullptr && focused != nullptr && (widget == focused || widget->isAncestorOf(focused));
-    if (!inside)
-        throw Unmet{"the focus in " + name, focused == nullptr ? "none" : focused->objectName().toStdString()};
+    const bool inside = widget != nullptr && focused != nullptr && (widget == focused || widget->isAncestorOf(focused));
+    if (!inside) throw Unmet{"the focus in " + name, focused == nullptr ? "none" : focused->objectName().toStdString()};
 }
 
 void expect_window(Session& session, Words& words) {
@@ -193,8 +188,7 @@ void expect_window(Session& session, Words& words) {
     const Form& form = session.window(name);
     const Form* const active = session.program->shell().active();
     if (!form.shown || active != &form)
-        throw Unmet{"window " + name + " shown and active",
-                    active == nullptr ? "no window" : "window " + active->name};
+        throw Unmet{"window " + name + " shown and active", active == nullptr ? "no window" : "window " + active->name};
     const QWidget* const widget = session.desktop->window(form);
     if (widget == nullptr || !widget->isVisible()) throw Unmet{"window " + name + " on the screen", "nothing"};
 }
@@ -252,8 +246,8 @@ bool matches(const Value& got, const Value& wanted, double tolerance) {
         const double difference = std::abs(got.number() - wanted.number());
         return difference <= tolerance * std::abs(wanted.number());
     }
-    const bool truths = (got.is_bool() && (wanted.is_number() || wanted.is_bool())) ||
-                        (wanted.is_bool() && got.is_number());
+    const bool truths =
+        (got.is_bool() && (wanted.is_number() || wanted.is_bool())) || (wanted.is_bool() && got.is_number());
     return truths ? got.number() == wanted.number() : got == wanted;
 }
 

@@ -41,8 +41,7 @@ Call read_call(int argc, char** argv) {
 
 // Without a display there is nothing to raise or to size by hints; what else the surface complains of is shown.
 void show_complaint(QtMsgType, const QMessageLogContext&, const QString& text) {
-    if (!text.startsWith(QLatin1String("This plugin does not support")))
-        std::cerr << text.toStdString() << "\n";
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) std::cerr << text.toStdString() << "\n";
 }
 
 }  // namespace

@@ -9,14 +9,22 @@ namespace {
 const char* answer_word(ScenarioPlatform::AnswerKind kind) {
     using enum ScenarioPlatform::AnswerKind;
     switch (kind) {
-        case yes: return "yes";
-        case no: return "no";
-        case open: return "open";
-        case save: return "save";
-        case folder: return "folder";
-        case cancel: return "cancel";
-        case end: return "end";
-        case go_on: return "continue";
+        case yes:
+            return "yes";
+        case no:
+            return "no";
+        case open:
+            return "open";
+        case save:
+            return "save";
+        case folder:
+            return "folder";
+        case cancel:
+            return "cancel";
+        case end:
+            return "end";
+        case go_on:
+            return "continue";
     }
     return "";
 }
@@ -46,8 +54,8 @@ std::optional<ScenarioPlatform::Answer> ScenarioPlatform::next(AnswerKind one, A
     const Answer answer = answers.front();
     if (answer.kind != one && answer.kind != other) {
         if (unanswered.empty())
-            unanswered = asked + " came up where \"answer " + answer_word(answer.kind) + "\" was next (" +
-                         answer.where + ")";
+            unanswered =
+                asked + " came up where \"answer " + answer_word(answer.kind) + "\" was next (" + answer.where + ")";
         return std::nullopt;
     }
     answers.pop_front();

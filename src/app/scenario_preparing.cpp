@@ -17,9 +17,9 @@ using AnswerKind = ScenarioPlatform::AnswerKind;
 
 void give_answer(Session& session, Words& words) {
     static const std::map<std::string, AnswerKind> kinds = {
-        {"yes", AnswerKind::yes},       {"no", AnswerKind::no},         {"open", AnswerKind::open},
-        {"save", AnswerKind::save},     {"folder", AnswerKind::folder}, {"cancel", AnswerKind::cancel},
-        {"end", AnswerKind::end},       {"continue", AnswerKind::go_on}};
+        {"yes", AnswerKind::yes},   {"no", AnswerKind::no},         {"open", AnswerKind::open},
+        {"save", AnswerKind::save}, {"folder", AnswerKind::folder}, {"cancel", AnswerKind::cancel},
+        {"end", AnswerKind::end},   {"continue", AnswerKind::go_on}};
     const std::string word = words.word("the kind of answer");
     const auto kind = kinds.find(word);
     if (kind == kinds.end()) throw Wrong{"unknown answer " + word};

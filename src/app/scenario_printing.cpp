@@ -22,11 +22,21 @@ std::string json_text(const std::string& text) {
     for (const char c : to_text(text)) {
         const auto byte = static_cast<unsigned char>(c);
         switch (c) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\n': out += "\\n"; break;
-            case '\r': out += "\\r"; break;
-            case '\t': out += "\\t"; break;
+            case '"':
+                out += "\\\"";
+                break;
+            case '\\':
+                out += "\\\\";
+                break;
+            case '\n':
+                out += "\\n";
+                break;
+            case '\r':
+                out += "\\r";
+                break;
+            case '\t':
+                out += "\\t";
+                break;
             default:
                 if (byte < 0x20 || byte == 0x7F) {
                     out += "\\u00";
@@ -95,11 +105,14 @@ std::string json_control(const Session& session, const Control& control) {
     switch (control.kind) {
         case ControlKind::check:
         case ControlKind::option:
-        case ControlKind::scroll: out += ",\"value\":" + std::to_string(control.value); break;
+        case ControlKind::scroll:
+            out += ",\"value\":" + std::to_string(control.value);
+            break;
         case ControlKind::list:
             out += ",\"index\":" + std::to_string(control.value) + ",\"items\":" + json_array(control.items, json_text);
             break;
-        default: break;
+        default:
+            break;
     }
     out += ",\"back\":" + json_colour(control.back) + ",\"fore\":" + json_colour(control.fore);
     add_geometry(out, session, control);
@@ -138,18 +151,21 @@ std::string json_command(const Canvas& canvas, const DrawCommand& command) {
         return canvas.labels()[static_cast<std::size_t>(command.number)];
     };
     switch (command.kind) {
-        case DrawCommand::Kind::clear: return "[\"Clear\"]";
+        case DrawCommand::Kind::clear:
+            return "[\"Clear\"]";
         case DrawCommand::Kind::fill_rect:
             return "[\"FillRect\"," + numbers({command.x1, command.y1, command.x2, command.y2}) + colour + "]";
         case DrawCommand::Kind::line:
             return "[\"Line\"," + numbers({command.x1, command.y1, command.x2, command.y2}) + colour + "]";
         case DrawCommand::Kind::circle:
             return "[\"Circle\"," + numbers({command.x1, command.y1, command.x2}) + colour + "]";
-        case DrawCommand::Kind::line_width: return "[\"SetLineWidth\"," + std::to_string(command.number) + "]";
+        case DrawCommand::Kind::line_width:
+            return "[\"SetLineWidth\"," + std::to_string(command.number) + "]";
         case DrawCommand::Kind::show_label:
             return "[\"ShowLabel\"," + json_text(label().name) + "," + json_text(label().text) + "," +
                    json_number(command.x1) + "," + json_number(command.y1) + "]";
-        case DrawCommand::Kind::hide_label: return "[\"HideLabel\"," + json_text(label().name) + "]";
+        case DrawCommand::Kind::hide_label:
+            return "[\"HideLabel\"," + json_text(label().name) + "]";
     }
     return "null";
 }
@@ -160,8 +176,8 @@ std::string json_canvas(const Canvas& canvas) {
 
 std::string json_box(const ScenarioPlatform::Box& box) {
     return "{\"text\":" + json_text(box.text) + ",\"title\":" + json_text(box.title) +
-           ",\"kind\":" + json_text(box.kind) +
-           ",\"answer\":" + (box.answer.empty() ? "null" : json_text(box.answer)) + "}";
+           ",\"kind\":" + json_text(box.kind) + ",\"answer\":" + (box.answer.empty() ? "null" : json_text(box.answer)) +
+           "}";
 }
 
 // One cell, an array for a range, arrays in an array (the first index outside) for two.
@@ -193,8 +209,7 @@ void screenshot(Session& session, Words& words) {
 std::string value_of(Session& session, Words& words) {
     const std::string what = words.word("what to print");
     const auto picture = [&]() -> const Picture& {
-        return static_cast<const Picture&>(
-            session.control(words.word("a picture"), ControlKind::picture, "picture"));
+        return static_cast<const Picture&>(session.control(words.word("a picture"), ControlKind::picture, "picture"));
     };
     if (what == "grid")
         return json_grid(static_cast<const Grid&>(session.control(words.word("a grid"), ControlKind::grid, "grid")));

@@ -61,7 +61,10 @@ std::vector<std::string> lines_of(const std::string& path) {
 class Run {
 public:
     Run(std::string file, const RunOptions& options, std::ostream& out, std::ostream& err)
-        : file_(std::move(file)), keep_going_(options.keep_going), watch_(options.watch), err_(err),
+        : file_(std::move(file)),
+          keep_going_(options.keep_going),
+          watch_(options.watch),
+          err_(err),
           session_(options.app_folder, out, err) {}
 
     int play(const std::vector<std::string>& lines) {
@@ -92,8 +95,8 @@ private:
         Words words(line);
         if (words.empty()) return;
         const std::string command = words.word("a command");
-        if (!act(session_, command, words) && !expect(session_, command, words) &&
-            !print(session_, command, words) && !prepare(session_, command, words))
+        if (!act(session_, command, words) && !expect(session_, command, words) && !print(session_, command, words) &&
+            !prepare(session_, command, words))
             throw Wrong{"unknown command " + command};
         if (!session_.os.unanswered.empty()) throw Wrong{session_.os.unanswered};
         if (watch_ && session_.program != nullptr) watch_(*session_.program, *session_.desktop);

@@ -20,8 +20,8 @@ struct RunOptions {
     std::function<void(Program&, const Desktop&)> watch = {};
 };
 
-// Runs one file in a program of its own; there must be a QApplication. What is printed goes to `out`, failures to `err`.
-// 0: all expectations held; 1: one did not; 2: the scenario itself is wrong.
+// Runs one file in a program of its own; there must be a QApplication. What is printed goes to `out`, failures to
+// `err`. 0: all expectations held; 1: one did not; 2: the scenario itself is wrong.
 int run_scenario(const std::string& path, const RunOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace kolvar::scenario

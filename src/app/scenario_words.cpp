@@ -24,12 +24,23 @@ std::string quoted_text(std::string_view line, std::size_t& at) {
         if (c == '\\') {
             if (++at == line.size()) break;
             switch (line[at]) {
-                case 'n': c = '\n'; break;
-                case 'r': c = '\r'; break;
-                case 't': c = '\t'; break;
-                case '"': c = '"'; break;
-                case '\\': c = '\\'; break;
-                default: throw Wrong{std::string("unknown sign \\") + line[at] + " in a text"};
+                case 'n':
+                    c = '\n';
+                    break;
+                case 'r':
+                    c = '\r';
+                    break;
+                case 't':
+                    c = '\t';
+                    break;
+                case '"':
+                    c = '"';
+                    break;
+                case '\\':
+                    c = '\\';
+                    break;
+                default:
+                    throw Wrong{std::string("unknown sign \\") + line[at] + " in a text"};
             }
         }
         out += c;

@@ -60,9 +60,9 @@ public:
     // The line from the next word on, as it was written.
     [[nodiscard]] std::string rest() const;
 
-    std::string word(const char* what);   // not in quotes
-    std::string text(const char* what);   // in quotes
-    std::string path();                   // either way
+    std::string word(const char* what);  // not in quotes
+    std::string text(const char* what);  // in quotes
+    std::string path();                  // either way
     double number(const char* what);
     int whole(const char* what);
     Value value();                        // number, text, true, false, unset

@@ -61,7 +61,8 @@ TEST(ScenarioRunner, TheFormerFolderComesBackAndAFreshOneGoes) {
     const std::filesystem::path here = std::filesystem::current_path();
     const test::TempFolder folder;
     std::ostringstream out, err;
-    EXPECT_EQ(run_scenario(folder.write("a.scn", "write made.txt \"x\"\nexpect file made.txt text \"x\"\n"), {}, out, err), 0)
+    EXPECT_EQ(
+        run_scenario(folder.write("a.scn", "write made.txt \"x\"\nexpect file made.txt text \"x\"\n"), {}, out, err), 0)
         << err.str();
     EXPECT_EQ(std::filesystem::current_path(), here);
     EXPECT_FALSE(std::filesystem::exists(here / "made.txt"));

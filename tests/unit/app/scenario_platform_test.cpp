@@ -10,12 +10,8 @@ using AnswerKind = ScenarioPlatform::AnswerKind;
 
 TEST(ScenarioPlatform, AnswersAreUsedInTheirOrder) {
     ScenarioPlatform os;
-    os.answers = {{AnswerKind::yes, "", "a:1"},
-                  {AnswerKind::open, "x.csv", "a:2"},
-                  {AnswerKind::cancel, "", "a:3"},
-                  {AnswerKind::go_on, "", "a:4"},
-                  {AnswerKind::save, "y.txt", "a:5"},
-                  {AnswerKind::cancel, "", "a:6"}};
+    os.answers = {{AnswerKind::yes, "", "a:1"},   {AnswerKind::open, "x.csv", "a:2"}, {AnswerKind::cancel, "", "a:3"},
+                  {AnswerKind::go_on, "", "a:4"}, {AnswerKind::save, "y.txt", "a:5"}, {AnswerKind::cancel, "", "a:6"}};
     EXPECT_TRUE(os.ask("Sure?", ""));
     EXPECT_EQ(os.open_file({"All|*.*", 2, "x", ""}), "x.csv");
     EXPECT_EQ(os.last_dialog->index, 2);

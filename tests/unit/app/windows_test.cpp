@@ -30,8 +30,7 @@ std::map<std::string, Value> scalars_of(const RunState& rs) {
         const FieldShape shape = field_shape(name);
         if (shape.dimensions == 0) cells[name] = field_get(rs, name);
         if (shape.dimensions == 1)
-            for (int i = 0; i <= shape.last1; ++i)
-                cells[name + "(" + std::to_string(i) + ")"] = field_get(rs, name, i);
+            for (int i = 0; i <= shape.last1; ++i) cells[name + "(" + std::to_string(i) + ")"] = field_get(rs, name, i);
     }
     return cells;
 }
@@ -118,8 +117,8 @@ TEST(Windows, ShowWhatTheProgramHoldsAfterEveryLine) {
 // of that, so the walk is played here without them.
 bool is_no_event(const std::string& line) {
     const auto has = [&](const char* part) { return line.find(part) != std::string::npos; };
-    return line.starts_with("put ") || line.starts_with("disk ") || line.starts_with("expect file") ||
-           has("Ratio") || has("atios");
+    return line.starts_with("put ") || line.starts_with("disk ") || line.starts_with("expect file") || has("Ratio") ||
+           has("atios");
 }
 
 TEST(Journal, PlaysToTheSameRunStateAndFiles) {
@@ -139,8 +138,8 @@ TEST(Journal, PlaysToTheSameRunStateAndFiles) {
     EXPECT_EQ(second.files, first.files);
     ASSERT_FALSE(first.cells.empty());
     for (const auto& [name, value] : first.cells)
-        EXPECT_TRUE(second.cells.at(name) == value) << name << ": " << second.cells.at(name).text() << ", not "
-                                                    << value.text();
+        EXPECT_TRUE(second.cells.at(name) == value)
+            << name << ": " << second.cells.at(name).text() << ", not " << value.text();
 }
 
 }  // namespace
