@@ -98,7 +98,9 @@ void draw_lower_plot(Context& context) {
     if (rs.ModeData == 1) {
         const std::string maximum = Format(rs.MaxRatio, pattern_by_size(rs.MaxRatio));
         show_maximum(frm.pict2, frm.lblMaxIIS, maximum);
-        show_maximum(frm.pict2, frm.lblMaxIIS2, maximum);
+        // The same number once more, at the right end of the plot, where the zoom bar stands.
+        show_label(frm.pict2.canvas, frm.lblMaxIIS2, maximum,
+                   frm.pict2.left + frm.pict2.width - frm.lblMaxIIS2.width, frm.pict2.top - frm.lblMaxIIS2.height - 15);
     }
     const Area area = lower_area(frm);
     const std::vector<double> x = slice_positions(area.width, rs.nSlices);

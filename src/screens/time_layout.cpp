@@ -11,7 +11,7 @@ namespace {
 
 constexpr int margin = 60;
 constexpr int plot_top = 760;           // below the two lines about file and intervals
-constexpr int between_plots = 420;      // room for the numbers of the limits
+constexpr int between_plots = 640;      // room for the numbers of the limits and the head of the lower plot
 constexpr int scale_labels = 900;       // left of the plots
 constexpr int right_of_plots = 1935;    // bars and the strip at the right
 constexpr int bar_width = 255;
@@ -61,7 +61,8 @@ void place_scale_labels(Frm2Time& form) {
     place(form.lblMaxCps2, left, upper_end + label_height, width, label_height);
     const int lower_end = form.pict2.top + form.pict2.height / 10 - label_height / 2;
     place(form.lblMaxIIS, left, lower_end, width, label_height);
-    place(form.lblMaxIIS2, left, lower_end + label_height, width, label_height);
+    form.lblMaxIIS2.width = width;
+    form.lblMaxIIS2.height = label_height;
     place(form.lblXNew, left, upper_end + 2 * label_height, 1500, label_height);
     place(form.txtYMaxInp, left, upper_end + 3 * label_height, 1200, 330);
     place(form.lblXNew2, left, lower_end + 2 * label_height, 1500, label_height);
@@ -83,11 +84,11 @@ void lay_out_time_window(Context& context) {
     const int h = form.height;
     size_plots(context);
     place_scale_labels(form);
-    place(form.pictAllIso, margin, plot_top - 30, analytes_width(context.rs), h - plot_top - 930);
+    place(form.pictAllIso, margin, plot_top - 30, analytes_width(context.rs), h - plot_top - 600);
     place(form.VScroll1, form.pict1.left + form.pict1.width + 15, form.pict1.top, bar_width, form.pict1.height);
     place(form.VScroll3, form.pict2.left + form.pict2.width + 15, form.pict2.top, bar_width, form.pict2.height);
     const int strip = right_of_plots - bar_width - 2 * margin;
-    place(form.pictRightSide, w - margin - strip, plot_top, strip, h - plot_top - 930);
+    place(form.pictRightSide, w - margin - strip, plot_top, strip, h - plot_top - 600);
 
     for (Label* limit : {&form.lblLow, &form.lblUpp}) {
         limit->width = 600;
@@ -101,7 +102,7 @@ void lay_out_time_window(Context& context) {
           ratio_panel_in_edit_mode(form) ? panel_height_edit : panel_height);
 
     // The buttons of the way: their left edges keep their distance from the right edge of the window.
-    const int row = h - 840;
+    const int row = h - 510;
     place(form.cmdNext, w - 1350, row, 1350 - margin, button_height);
     place(form.cmdBack, w - 2310, row, 900, button_height);
     place(form.cmdExit, w - 3030, row, 660, button_height);

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int analytes_in_column = 17;
 constexpr int strip_height = 48;   // logical pixels above the plots
-constexpr int status_height = 22;  // below the buttons
+constexpr int status_height = 22;  // left of the buttons
 
 QWidget* lay_out_head(FormWindow& window, const Frm2Time& f) {
     auto* strip = new QWidget(window.body());
@@ -197,7 +197,7 @@ void lay_out_time(FormWindow& window, const Frm2Time& f, const RunState& rs) {
     window.set_arranger([&window, head, status] {
         const QSize room = window.body()->size();
         head->setGeometry(0, 0, room.width(), strip_height);
-        status->setGeometry(8, room.height() - status_height - 2, room.width() - 16, status_height);
+        status->setGeometry(8, room.height() - status_height - 9, room.width() - 300, status_height);
     });
     window.set_default_buttons({&f.cmdNext});
     window.set_escape_buttons({&f.cmdBack});
