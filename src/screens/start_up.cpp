@@ -35,7 +35,13 @@ void start_internal_standard_path(Context& context) {
 
     rs.SettingsName = "Kolvar-default-h.set";
     rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
-    ReadSettings(rs, context.os, rs.SettingsPath);
+    // While nobody has named the kit's folder its paths are a name behind a lone separator. A file that happens to lie
+    // there, in the root of the disk, is none of the kit: each load fails with its own message.
+    const bool kit_named = !rs.WorkPath.empty();
+    if (kit_named)
+        ReadSettings(rs, context.os, rs.SettingsPath);
+    else
+        warn_of_settings_file(context.os, rs.SettingsPath);
 
     // The kit of this path is loaded to its end even if the settings file has chosen another path.
     for (int i = 1; i <= MaxIso; ++i) rs.Dwell(i) = rs.setIS_Dwell.val() / 1000;
@@ -50,15 +56,23 @@ void start_internal_standard_path(Context& context) {
 
     rs.BLKfileName = "2004-12-19-a.blk";
     rs.BLKfilePath = join_path(rs.WorkPath, rs.BLKfileName);
-    LoadBLK(rs, context.os);
+    if (kit_named)
+        LoadBLK(rs, context.os);
+    else
+        warn_of_reference_file(context.os, rs.BLKfilePath);
 
     rs.STMfileName = "nbs-610-2004-12-19-1.stm";
     rs.STMfilePath = join_path(rs.WorkPath, rs.STMfileName);
-    LoadSTM(rs, context.os);
+    if (kit_named)
+        LoadSTM(rs, context.os);
+    else
+        warn_of_reference_file(context.os, rs.STMfilePath);
 
     rs.DataFileName = "example-1.csv";
-    rs.DataFilePath = join_path(rs.WorkPath, rs.DataFileName);
-    LoadCSV(context, rs.DataFilePath);
+    const std::string example = join_path(rs.WorkPath, rs.DataFileName);
+    rs.DataFilePath = kit_named ? example : std::string();
+    LoadCSV(context, example);
+    rs.DataFilePath = example;
 }
 
 }  // namespace
@@ -72,6 +86,7 @@ std::string start_kit_folder(const RunState& rs, const std::string& named) {
 
 std::string reference_path(const RunState& rs, const std::string& named) {
     const std::string path = native_path(named);
+    if (rs.WorkPath.empty()) return path;
     const std::string in_kit = join_path(rs.WorkPath, path);
     if (is_relative_path(path) && !file_exists(path) && file_exists(in_kit)) return in_kit;
     return path;

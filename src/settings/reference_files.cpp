@@ -19,11 +19,6 @@ void warn_of_settings_file(Platform& os, const std::string& path, const std::str
             "KOLVAR");
 }
 
-void warn_of_file(Platform& os, const std::string& path) {
-    os.warn("Error occurred while trying to load file: " + native_path(path) + " , please retry or check the file.",
-            "KOLVAR");
-}
-
 // Asks for a file; with an answer, its path and name are taken, the file is read and its name shown.
 template <class Load>
 bool browse(Context& context, const char* filter, std::string& path, std::string& name, Label& label, Load&& load) {
@@ -39,6 +34,11 @@ bool browse(Context& context, const char* filter, std::string& path, std::string
 }
 
 }  // namespace
+
+void warn_of_reference_file(Platform& os, const std::string& path) {
+    os.warn("Error occurred while trying to load file: " + native_path(path) + " , please retry or check the file.",
+            "KOLVAR");
+}
 
 void LoadSTC(RunState& rs, Platform& os) {
     Running running(rs, "LoadSTC");
@@ -99,7 +99,7 @@ void LoadSTM(RunState& rs, Platform& os) {
             }
             rs.nSTM = i - 1;
         },
-        [&](const Fault&) { warn_of_file(os, rs.STMfilePath); });
+        [&](const Fault&) { warn_of_reference_file(os, rs.STMfilePath); });
 }
 
 void LoadBLK(RunState& rs, Platform& os) {
@@ -116,7 +116,7 @@ void LoadBLK(RunState& rs, Platform& os) {
             }
             rs.nBLK = i - 1;
         },
-        [&](const Fault&) { warn_of_file(os, rs.BLKfilePath); });
+        [&](const Fault&) { warn_of_reference_file(os, rs.BLKfilePath); });
 }
 
 void load_blank_by_ending(RunState& rs, Platform& os) {

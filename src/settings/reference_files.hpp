@@ -12,6 +12,8 @@ void LoadSTC(RunState& rs, Platform& os);
 void LoadSTM(RunState& rs, Platform& os);
 void LoadBLK(RunState& rs, Platform& os);
 void LoadDWE(RunState& rs, Platform& os);
+// The box for a standard measurement or blank that could not be read.
+void warn_of_reference_file(Platform& os, const std::string& path);
 
 // A raw instrument table of the blank, reduced to means and s.d. at once. Faults are not caught; the table then counts
 // as empty.

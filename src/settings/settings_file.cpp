@@ -79,6 +79,13 @@ void derive_fields(RunState& rs) {
 
 }  // namespace
 
+void warn_of_settings_file(Platform& os, const std::string& path) {
+    os.warn("Error occurred while trying to load file: " + native_path(path) +
+                "\n\nSpecify the path using the menu of 'File Selection' window: [Settings] / "
+                "[Specify the path to the StartKit directory].",
+            "KOLVAR");
+}
+
 void ReadSettings(RunState& rs, Platform& os, const std::string& path) {
     Running running(rs, "ReadSettings");
     guarded(
@@ -87,12 +94,7 @@ void ReadSettings(RunState& rs, Platform& os, const std::string& path) {
             for (const SettingsLine& line : settings_lines()) read_line(rs, line, records);
             derive_fields(rs);
         },
-        [&](const Fault&) {
-            os.warn("Error occurred while trying to load file: " + native_path(path) +
-                        "\n\nSpecify the path using the menu of 'File Selection' window: [Settings] / "
-                        "[Specify the path to the StartKit directory].",
-                    "KOLVAR");
-        });
+        [&](const Fault&) { warn_of_settings_file(os, path); });
 }
 
 void WriteSettings(RunState& rs, Platform& os) {

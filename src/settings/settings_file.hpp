@@ -12,6 +12,9 @@ namespace kolvar {
 // shows a warning; what was read stays and nothing is derived.
 void ReadSettings(RunState& rs, Platform& os, const std::string& path);
 
+// The box for a settings file that could not be read.
+void warn_of_settings_file(Platform& os, const std::string& path);
+
 // Writes to SetFilePath; asks before it overwrites; reports its own faults.
 void WriteSettings(RunState& rs, Platform& os);
 
