@@ -120,20 +120,17 @@ void Program::dispatch(const Event& event) {
 
 void Program::run(const std::string& line, const std::function<void()>& work) {
     busy_ = true;
-    const auto whole_event = [&] {
-        work();
-        for (Form* top = nullptr; top != shell_.active();) {  // an activation may itself open a window
-            top = shell_.active();
-            shell_.settle();
-        }
-    };
     try {
-        try {
-            whole_event();
-        } catch (const Fault& fault) {
-            if (gate_->fault(fault_box_text(fault, state_->procedure)) == Platform::FaultAnswer::end)
-                throw ProgramEnd{1};
-            put_back_to_idle();
+        // After a fault the program goes on from the window that is then on top, which becomes active as ever.
+        for (std::function<void()> next = work; next;) {
+            try {
+                std::exchange(next, nullptr)();
+                settle_windows();
+            } catch (const Fault& fault) {
+                if (gate_->fault(fault_box_text(fault, state_->procedure)) == Platform::FaultAnswer::end)
+                    throw ProgramEnd{1};
+                next = [this] { put_back_to_idle(); };
+            }
         }
     } catch (const ProgramEnd& end) {
         ended_ = true;
@@ -142,6 +139,13 @@ void Program::run(const std::string& line, const std::function<void()>& work) {
     journal_.event(line);
     busy_ = false;
     if (on_change) on_change();
+}
+
+void Program::settle_windows() {
+    for (Form* top = nullptr; top != shell_.active();) {  // an activation may itself open a window
+        top = shell_.active();
+        shell_.settle();
+    }
 }
 
 void Program::put_back_to_idle() {

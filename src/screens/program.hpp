@@ -51,6 +51,7 @@ private:
 
     void run(const std::string& line, const std::function<void()>& work);
     void apply(const Event& event, Form& form);
+    void settle_windows();
     void put_back_to_idle();
 
     std::string app_folder_;

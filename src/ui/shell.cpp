@@ -1,12 +1,32 @@
 #include "ui/shell.hpp"
 
 #include <algorithm>
+#include <exception>
 
 namespace kolvar {
 
+namespace {
+
+// A window whose opening ends in a fault was not opened: the next attempt runs its opening from the start.
+class Loading {
+public:
+    explicit Loading(Form& form) : form_(form) { form_.loaded = true; }
+    ~Loading() {
+        if (std::uncaught_exceptions() != faults_) form_.loaded = false;
+    }
+    Loading(const Loading&) = delete;
+    Loading& operator=(const Loading&) = delete;
+
+private:
+    Form& form_;
+    int faults_ = std::uncaught_exceptions();
+};
+
+}  // namespace
+
 void Shell::load(Form& form) {
     if (form.loaded) return;
-    form.loaded = true;
+    const Loading loading(form);
     const auto hooks = hooks_.find(&form);
     if (hooks != hooks_.end() && hooks->second.opening) hooks->second.opening();
 }
