@@ -91,6 +91,9 @@ void connect_report_windows(Program& program) {
     program.on(forms.frm_Omit, "cmdOK", EventKind::click,
                [&context](const Event&) { context.shell.close(context.forms.frm_Omit); });
 
+    program.on(forms.frm_Batch_IS, "cmdClose", EventKind::click,
+               [&context](const Event&) { context.shell.close(context.forms.frm_Batch_IS); });
+
     program.on(forms.frm_ChoseDir, "Dir1", EventKind::choose, [&context](const Event& event) {
         context.forms.frm_ChoseDir.Dir1.text = native_path(event.text);
         context.forms.frm_ChoseDir.lblPath.text = context.forms.frm_ChoseDir.Dir1.text;

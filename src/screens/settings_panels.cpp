@@ -105,9 +105,7 @@ void follow_mode(Context& context) {
     enable({&form.cmdLoadSTC, &form.cmdLoadSTM, &form.cmdSTCinfo, &form.cmdDWEinfo, &form.lblSTC, &form.lblSTM,
             &form.lblCaptionSTC, &form.lblCaptionSTM, &form.Frame2, &form.Frame3},
            data);
-    // A standard measurement still needs its blank; a blank needs none.
-    if (form.optCreatBLK.on()) form.Frame1.enabled = false;
-    if (data) form.Frame1.enabled = true;
+    form.Frame1.enabled = !form.optCreatBLK.on();  // a standard measurement still needs its blank; a blank needs none
 }
 
 void follow_blank(Context& context) {
@@ -161,9 +159,11 @@ void open_settings_window(Context& context) {
         enable_choices(form, true);
         (rs.BlankFromData == 1 ? form.optBfromData : form.optBLKfile).set_value_quietly(1);
         (rs.DwellFromFile == 1 ? form.optDWEfile : form.optDweUni).set_value_quietly(1);
-        follow_blank(context);
-        follow_dwell(context);
         follow_mode(context);
+        // Of the groups of the blank and of the dwell time the controls of the option that isn't set can't be used.
+        if (rs.BlankFromData == 1) follow_blank(context);
+        if (rs.DwellFromFile != 1) follow_dwell(context);
+        form.txtDwell.enabled = rs.DwellFromFile != 1;
         if (rs.KeepData) Selection_Ready(context);
     } else if (rs.Method == 1 || rs.Method == 3) {
         form.title = rs.Method == 1 ? "Kolv-AGE  -  Start window" : "Kolv-FLEX  -  Start window";

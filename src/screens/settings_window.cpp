@@ -209,9 +209,11 @@ void connect_settings_window(Program& program) {
     for (const char* leaving : {"cmdClose", "cmdExitUP", "cmdExitFLEX"})
         click(leaving, [](Context&) { throw ProgramEnd{0}; });
     for (const char* later :
-         {"cmdPaste", "cmdModiSet", "cmdSeq", "cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster",
+         {"cmdPaste", "cmdModiSet", "cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster",
           "Command6", "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
         click(later, [](Context& c) { say_not_yet(c.os); });
+
+    click("cmdSeq", [](Context& c) { c.shell.open(c.forms.frm_Batch_IS); });
 
     program.on(form, "mnuFile", EventKind::click, [&context](const Event& event) {
         switch (event.index) {

@@ -23,10 +23,11 @@ struct Forms {
     FrmOmit frm_Omit;
     FrmChoseDir frm_ChoseDir;
     FrmAverConc frm_AverConc;
+    FrmBatchIS frm_Batch_IS;
 
     [[nodiscard]] std::vector<Form*> all() {
-        return {&frm1_Settings, &frm2_Time,      &frm3_Matrix, &frm4_Output,  &frm5_Preview,
-                &frm_Dwell,     &frm_MissingIso, &frm_Omit,    &frm_ChoseDir, &frm_AverConc};
+        return {&frm1_Settings,  &frm2_Time, &frm3_Matrix,  &frm4_Output,  &frm5_Preview, &frm_Dwell,
+                &frm_MissingIso, &frm_Omit,  &frm_ChoseDir, &frm_AverConc, &frm_Batch_IS};
     }
     // nullptr when there is no window of this name.
     [[nodiscard]] Form* find(const std::string& name) {

@@ -14,6 +14,7 @@ void lay_out(FormWindow& window, const Form& form, Program& program) {
     if (&form == &forms.frm_Omit) lay_out_omit(window, forms.frm_Omit);
     if (&form == &forms.frm_ChoseDir) lay_out_folder(window, forms.frm_ChoseDir);
     if (&form == &forms.frm_AverConc) lay_out_averages(window, forms.frm_AverConc);
+    if (&form == &forms.frm_Batch_IS) lay_out_batch(window, forms.frm_Batch_IS);
 }
 
 }  // namespace kolvar

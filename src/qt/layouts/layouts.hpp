@@ -19,5 +19,6 @@ void lay_out_missing(FormWindow& window, const FrmMissingIso& form);
 void lay_out_omit(FormWindow& window, const FrmOmit& form);
 void lay_out_folder(FormWindow& window, const FrmChoseDir& form);
 void lay_out_averages(FormWindow& window, const FrmAverConc& form);
+void lay_out_batch(FormWindow& window, const FrmBatchIS& form);
 
 }  // namespace kolvar

@@ -89,6 +89,13 @@ void lay_out_folder(FormWindow& window, const FrmChoseDir& f) {
     window.add_shortcut(f.cmdSave, "Alt+S");
 }
 
+void lay_out_batch(FormWindow& window, const FrmBatchIS& f) {
+    QVBoxLayout* const whole = whole_of(window);
+    whole->addLayout(button_row(window, {}, {&f.cmdClose}));
+    window.set_default_buttons({&f.cmdClose});
+    window.set_escape_buttons({&f.cmdClose});
+}
+
 void lay_out_averages(FormWindow& window, const FrmAverConc& f) {
     constexpr int lines = 25;
     auto* grid = new QGridLayout(window.body());

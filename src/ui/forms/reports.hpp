@@ -57,6 +57,13 @@ struct FrmChoseDir : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+// Batches on the internal-standard path: the window is all there is of them.
+struct FrmBatchIS : Form {
+    FrmBatchIS() : Form("frm_Batch_IS", "Sequential treatment of files") {}
+
+    Button cmdClose{*this, "cmdClose", "Close"};
+};
+
 struct FrmAverConc : Form {
     FrmAverConc() : Form("frm_AverConc", "Preview of aver. conc. (\xC2\xB1 1 s.d.)") {
         for (Label& label : lbl) label.visible = false;
