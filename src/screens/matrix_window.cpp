@@ -47,7 +47,10 @@ void cmdNext(Context& context) {
     RunState& rs = context.rs;
     keep_rejection_model(context);
     ReadRejections(context);
-    if (!rs.OutText.empty()) return context.shell.open(context.forms.frm_Omit);
+    if (!rs.OutText.empty()) {
+        context.shell.close(context.forms.frm_Omit);  // a list that is still open is filled anew
+        return context.shell.open(context.forms.frm_Omit);
+    }
     ComputeConcentrations(rs, context.os);
     if (rs.ModeData == 1) {
         context.shell.open(context.forms.frm4_Output);

@@ -30,6 +30,7 @@ void cmdCopyAll(Context& context) {
 
 void cmdPreview(Context& context) {
     Comp_Output(context.rs, context.os);
+    context.shell.close(context.forms.frm5_Preview);  // a preview that is still open is filled anew
     context.shell.open(context.forms.frm5_Preview);
 }
 
@@ -39,6 +40,7 @@ void close_preview(Context& context) {
 }
 
 void cmdBackRej(Context& context) {
+    context.shell.close(context.forms.frm5_Preview);
     context.shell.open(context.forms.frm3_Matrix);
     context.shell.close(context.forms.frm4_Output);
 }
@@ -46,6 +48,7 @@ void cmdBackRej(Context& context) {
 // Leaves the results for a new task: no rejection is left, and the matrix forgets its cells.
 void leave_for(Context& context, Form& next) {
     reset_rejections(context.rs);
+    context.shell.close(context.forms.frm5_Preview);
     context.shell.open(next);
     context.shell.close(context.forms.frm3_Matrix);
     context.shell.close(context.forms.frm4_Output);

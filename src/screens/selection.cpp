@@ -6,6 +6,7 @@
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
 #include "screens/plots.hpp"
+#include "screens/time_window.hpp"
 #include "trace/statistics.hpp"
 
 namespace kolvar {
@@ -141,8 +142,7 @@ void enable_what_the_limits_allow(Context& context) {
         if (rs.Method == 1) frm.cmdCopySel.enabled = true;
         frm.cmdCopyHead.enabled = frm.cmdCopy.enabled = frm.cmdApp.enabled = true;
     }
-    if (selection_stands(rs) && (rs.BlankFromData != 1 || blank_stands(rs)))
-        frm.cmdShowConc.enabled = frm.cmdAppQuick.enabled = true;
+    enable_results(context);
 }
 
 }  // namespace

@@ -96,10 +96,9 @@ bool all_limits_set(const RunState& rs) {
 void enable_results(Context& context) {
     RunState& rs = context.rs;
     Frm2Time& form = context.forms.frm2_Time;
-    const bool blank_needed = rs.BlankFromData == 1 && rs.ModeCreateBLK != 1;
-    const bool usable = rs.SelLow.is_set() && rs.SelUpp.is_set() && rs.SelN.val() != 0 &&
-                        (!blank_needed || (rs.BlkLow.is_set() && rs.BlkUpp.is_set()));
-    form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = usable;
+    const bool selection = rs.SelLow.is_set() && rs.SelUpp.is_set();
+    if (selection && (rs.BlankFromData != 1 || (rs.BlkLow.is_set() && rs.BlkUpp.is_set())))
+        form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = true;
 }
 
 void open_time_window(Context& context) {
@@ -126,7 +125,7 @@ void open_time_window(Context& context) {
     form.pict1.sized_by_hand = form.pict2.sized_by_hand = false;
     lay_out_time_window(context);
     show_limits(context);
-    enable_results(context);
+    form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = rs.SelN.val() != 0;
     (rs.LinearView ? form.optLi : form.optLo).set_value_quietly(1);
     form.pictAllIso.visible = true;
     rs.CurvesShown = 1;

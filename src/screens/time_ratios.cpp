@@ -121,8 +121,9 @@ void connect_ratio_panel(Program& program) {
     program.on(form, "lblRatio", EventKind::click, [&context](const Event& event) { mark_label(context, event.index); });
     program.on(form, "chkIs", EventKind::drag, [&context](const Event& event) {
         Frm2Time& window = context.forms.frm2_Time;
-        if (event.target == "lblRatio" && ratio_panel_in_edit_mode(window))
-            window.lblRatio(event.target_index).text = window.chkIs(event.index).text;
+        Control* const target = window.find("lblRatio", event.target_index);
+        if (event.target == "lblRatio" && target != nullptr && ratio_panel_in_edit_mode(window))
+            target->text = window.chkIs(event.index).text;
     });
     for (int pair = 1; pair <= MaxShow; ++pair)
         program.on(form, "chkR" + std::to_string(pair), EventKind::click,

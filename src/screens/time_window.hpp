@@ -23,7 +23,8 @@ void connect_ratio_panel(Program& program);
 // How many analytes can be chosen: the columns, at most 50.
 int choosable_analytes(const RunState& rs);
 bool all_limits_set(const RunState& rs);
-// Preview of the averages and the result buttons become usable when the limits that they need are set.
+// After a click: preview of the averages and the result buttons become usable as soon as the limits that they need are
+// set.
 void enable_results(Context& context);
 
 // Both zoom bars back to full scale.
