@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstring>
 #include <span>
 #include <string_view>
@@ -112,20 +113,24 @@ void read_row(std::string_view line, char separator, RowBlock& rows, const Place
     const char* const end = at + line.size();
     for (int column = 1;; ++column) {
         if (column > MaxIso) place.fail_here(FaultKind::too_many, line);
+        double number = 0;
         const char* stop = at;
-        LeadingNumber read;
-        // A field that does not begin with a blank is converted before its end is known: no number holds a separator.
-        // Blanks are passed over within the field alone, because a separator may be one of them.
-        if (at != end && *at != separator && *at != ' ' && *at != '\t') {
-            read = leading_number({at, static_cast<std::size_t>(end - at)});
-            stop = at + read.length;
-            if (stop != end && *stop != separator) stop = field_end(stop, end, separator);
-        } else {
-            stop = field_end(at, end, separator);
-            read = leading_number({at, static_cast<std::size_t>(stop - at)});
+        // Nearly every field begins with a digit. It is converted before its end is known, as no number holds a
+        // separator; what is not plainly a number up to the separator is read again below by all the rules.
+        bool plain = at != end && *at >= '0' && *at <= '9';
+        if (plain) {
+            const auto read = std::from_chars(at, end, number);
+            stop = read.ptr;
+            plain = read.ec == std::errc() && (stop == end || *stop == separator);
         }
-        if (read.too_large) place.fail_here(FaultKind::overflow, {at, static_cast<std::size_t>(stop - at)});
-        rows.add(read.number);
+        if (!plain) {
+            stop = field_end(stop, end, separator);
+            const std::string_view field(at, static_cast<std::size_t>(stop - at));
+            const LeadingNumber read = leading_number(field);
+            if (read.too_large) place.fail_here(FaultKind::overflow, field);
+            number = read.number;
+        }
+        rows.add(number);
         if (stop == end) return;
         at = stop + 1;
     }
