@@ -51,7 +51,7 @@ void CanvasView::paintEvent(QPaintEvent*) {
     if (rendered_ != picture_.canvas.revision() || pixmap_.size() != device) {
         const CanvasScale scale{device.width() / drawn_width_, device.height() / drawn_height_, ratio};
         pixmap_ = QPixmap::fromImage(
-            paint_canvas(picture_.canvas, device, scale, picture_.back.value_or(kolvar::palette(15))));
+            paint_canvas(picture_.canvas, device, scale, picture_.back.value_or(ground.value_or(kolvar::palette(15)))));
         pixmap_.setDevicePixelRatio(ratio);
         rendered_ = picture_.canvas.revision();
         ++replays_;

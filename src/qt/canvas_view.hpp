@@ -23,6 +23,8 @@ public:
     std::function<void()> on_release, on_click, on_dblclick;
     // The pointer moves over the picture (twips), or has left it.
     std::function<void(std::optional<QPointF>)> on_hover;
+    // The ground where the picture has none of its own.
+    std::optional<Colour> ground;
     // Limits are marked on this picture: a line follows the pointer while a button is held.
     bool marks_limits = false;
 

@@ -217,8 +217,11 @@ void FormWindow::sync_list(const Control& control, QComboBox& box) {
     if (box.isEditable()) {
         const QSignalBlocker field(box.lineEdit());
         if (box.currentText() != text) box.setEditText(text);
-    } else if (control.value < 0 && box.placeholderText() != text) {
-        box.setPlaceholderText(text);  // a text that no item has
+    } else if (control.value < 0) {
+        // A text that no item has. With an empty one Qt would show the first item.
+        const QString instead = text.isEmpty() ? QStringLiteral(" ") : text;
+        if (box.placeholderText() != instead) box.setPlaceholderText(instead);
+        if (box.currentIndex() != -1) box.setCurrentIndex(-1);
     }
 }
 

@@ -1,6 +1,7 @@
 // Step 3: views, marks and tests above the matrix, the trend plot below it.
 #include <QGroupBox>
 
+#include "qt/canvas_view.hpp"
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
 
@@ -22,7 +23,11 @@ void lay_out_matrix(FormWindow& window, const Frm3Matrix& f) {
     marks->setRowStretch(3, 1);
     marks->setColumnStretch(1, 1);
 
-    for (const auto& [box, legend] : legends) window.of(*legend)->setFixedSize(150, 100);
+    for (const auto& [box, legend] : legends) {
+        auto* const view = static_cast<CanvasView*>(window.of(*legend));
+        view->setFixedSize(150, 100);
+        view->ground = Colour{window.palette().color(QPalette::Window).rgb() & 0xFFFFFFU};
+    }
 
     auto* tests = new QGridLayout;
     window.of(f.txtSD)->setFixedWidth(60);

@@ -93,6 +93,7 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
     auto* whole = new QVBoxLayout(window.body());
     for (const Control* panel : {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}) whole->addWidget(window.of(*panel));
 
+    window.body()->setMinimumSize(680, 420);  // also for the small panels
     window.set_default_buttons({&f.cmdNext, &f.cmdOK, &f.cmdOK1, &f.Command9});
     window.set_escape_buttons({&f.cmdBack});
     window.add_shortcut(f.cmdOK, "Alt+O");

@@ -1,0 +1,115 @@
+// Boxes and dialogs as the system shows them.
+#include "qt/qt_platform.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <functional>
+
+#include "support/test_support.hpp"
+
+namespace kolvar::test {
+namespace {
+
+// Acts on the modal window once it is there.
+template <class Dialog>
+void when_shown(std::function<void(Dialog&)> act) {
+    QTimer::singleShot(0, [act] {
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+}
+
+TEST(QtPlatform, FiltersKeepTheirOrder) {
+    EXPECT_EQ(name_filters("All Files (*.*)|*.*|Setting Files (*.set)|*.set"),
+              QStringList({"All Files (*)", "Setting Files (*.set)"}));
+    EXPECT_EQ(name_filters("Spectra|*.csv;*.txt"), QStringList({"Spectra (*.csv *.txt)"}));
+    EXPECT_EQ(name_filters("Blank File (*.blk)|*.blk|All Files (*.*)|*.*|"),
+              QStringList({"Blank File (*.blk)", "All Files (*)"}));
+    EXPECT_TRUE(name_filters("").isEmpty());
+}
+
+TEST(QtPlatform, BoxShowsItsTextAsItIs) {
+    QString text, title;
+    Qt::TextFormat format = Qt::RichText;
+    when_shown<QMessageBox>([&](QMessageBox& box) {
+        text = box.text();
+        title = box.windowTitle();
+        format = box.textFormat();
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    QtPlatform().warn("<b>5</b> & more\nsecond line", "KOLVAR");
+    EXPECT_EQ(text, "<b>5</b> & more\nsecond line");
+    EXPECT_EQ(title, "KOLVAR");
+    EXPECT_EQ(format, Qt::PlainText);
+}
+
+TEST(QtPlatform, EnterAndEscAnswerNo) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        when_shown<QMessageBox>([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+        EXPECT_FALSE(QtPlatform().ask("Overwrite existing file?", ""));
+    }
+    when_shown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
+    EXPECT_TRUE(QtPlatform().ask("Overwrite existing file?", ""));
+}
+
+TEST(QtPlatform, FaultBoxEndsByDefault) {
+    when_shown<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(QtPlatform().fault("Run-time error"), Platform::FaultAnswer::end);
+    when_shown<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(QtPlatform().fault("Run-time error"), Platform::FaultAnswer::go_on);
+}
+
+TEST(QtPlatform, SaveDialogReturnsWhatWasTypedAndAsksNothing) {
+    const TempFolder folder;
+    folder.write("there", "old");
+    const QString before = QDir::currentPath();
+    QString preselected, proposed;
+    when_shown<QFileDialog>([&](QFileDialog& dialog) {
+        preselected = dialog.selectedNameFilter();
+        proposed = dialog.selectedFiles().value(0);
+        dialog.selectFile("there");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    FileDialog wanted;
+    wanted.filter = "All Files (*.*)|*.*|Tab delimited text files (*.txt)|*.txt";
+    wanted.index = 2;
+    wanted.name = "example_t5-t80.txt";
+    wanted.folder = folder.path();
+    const std::optional<std::string> path = QtPlatform().save_file(wanted);
+    EXPECT_EQ(preselected, "Tab delimited text files (*.txt)");
+    EXPECT_EQ(QFileInfo(proposed).fileName(), "example_t5-t80.txt");
+    ASSERT_TRUE(path.has_value());
+    EXPECT_EQ(std::filesystem::path(*path).filename(), "there") << "no ending is added";
+    EXPECT_EQ(QDir::currentPath(), before);
+}
+
+TEST(QtPlatform, CancelledDialogsTellNothing) {
+    when_shown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(QtPlatform().save_file({}).has_value());
+    when_shown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(QtPlatform().open_file({}), "");
+}
+
+TEST(QtPlatform, MissingDocumentIsNotOpened) {
+    const TempFolder folder;
+    EXPECT_FALSE(QtPlatform().open_document(folder.path("kol-grubbs.pdf")));
+}
+
+TEST(QtPlatform, ClipboardKeepsTabsAndLineEnds) {
+    QtPlatform platform;
+    platform.set_clipboard("a\tb\r\nc\r");
+    EXPECT_EQ(platform.clipboard(), "a\tb\r\nc\r");
+}
+
+}  // namespace
+}  // namespace kolvar::test
