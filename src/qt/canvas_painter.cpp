@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qt/text.hpp"
+#include "qt/wide_registers.hpp"
 
 namespace kolvar {
 
@@ -204,6 +205,7 @@ QImage paint_canvas(const Canvas& canvas, QSize device_size, CanvasScale scale, 
     QImage image(device_size, QImage::Format_RGB32);
     image.fill(qt_colour(ground));
     if (!image.isNull()) Replay(image, scale, ground).run(canvas);
+    release_wide_registers();
     return image;
 }
 

@@ -5,6 +5,7 @@
 
 #include "qt/form_window.hpp"
 #include "qt/layouts/layouts.hpp"
+#include "qt/wide_registers.hpp"
 
 namespace kolvar {
 
@@ -80,6 +81,7 @@ void Desktop::tell_end() {
 
 void Desktop::send(const Event& event) {
     if (syncing_) return;
+    release_wide_registers();  // the calculations of a click follow what was painted last
     program_.dispatch(event);
     // A refused event changes nothing: the widgets show the model's state again.
     sync();

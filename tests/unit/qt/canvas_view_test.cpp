@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <vector>
 
@@ -92,7 +93,9 @@ TEST_F(CanvasViewTest, LineFollowsThePointerOnlyWhileAButtonIsHeld) {
 TEST_F(CanvasViewTest, HoverTellsWhereThePointerIs) {
     std::vector<std::optional<QPointF>> seen;
     view.on_hover = [&](std::optional<QPointF> at) { seen.push_back(at); };
-    QTest::mouseMove(&view, {30, 40});
+    QMouseEvent move(QEvent::MouseMove, QPointF(30, 40), view.mapToGlobal(QPointF(30, 40)), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&view, &move);
     QEvent left(QEvent::Leave);
     QApplication::sendEvent(&view, &left);
     ASSERT_GE(seen.size(), 2U);

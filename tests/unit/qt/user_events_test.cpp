@@ -24,7 +24,13 @@
 namespace kolvar::test {
 namespace {
 
-class UserEvents : public DesktopTest {};
+class UserEvents : public DesktopTest {
+protected:
+    static void move_to(QWidget& widget, QPointF at) {
+        QMouseEvent move(QEvent::MouseMove, at, widget.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &move);
+    }
+};
 
 TEST_F(UserEvents, ButtonClickIsOneClick) {
     catch_events(forms.frm4_Output, "cmdSave", EventKind::click);
@@ -259,7 +265,7 @@ TEST_F(UserEvents, HoverShowsSliceAndValueAndWritesNothing) {
     show(f);
     const std::size_t events = program.journal().lines().size();
     // A quarter of the way: slice 25; half of the height: 0.5 x 900 / 0.9.
-    QTest::mouseMove(desktop.widget(f.pict1), {150, 100});
+    move_to(*desktop.widget(f.pict1), {150, 100});
     auto* const status = window(f).findChild<QLabel*>("status");
     ASSERT_NE(status, nullptr);
     EXPECT_EQ(status->text().simplified(), "Slice 25 500 cps");
@@ -278,7 +284,7 @@ TEST_F(UserEvents, LogarithmicScaleIsReadBackUnderThePointer) {
     f.pict1.height = 3000;
     show(f);
     // A tenth of the height below the top is the end of the scale.
-    QTest::mouseMove(desktop.widget(f.pict1), {300, 20});
+    move_to(*desktop.widget(f.pict1), {300, 20});
     EXPECT_EQ(window(f).findChild<QLabel*>("status")->text().simplified(), "Slice 50 1e+06 cps");
 }
 
