@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/files.hpp"
 #include "screens/screens.hpp"
 #include "screens/start_up.hpp"
 
@@ -111,6 +112,8 @@ void Program::start(int method) {
     run(method == 0 ? "start" : "start " + std::to_string(method),
         [&] { start_up(*context_, method, app_folder_); });
 }
+
+void Program::save_journal(const std::string& path) { replace_file(*gate_, path, journal_.text()); }
 
 void Program::dispatch(const Event& event) {
     Form* const form = forms_->find(event.window);

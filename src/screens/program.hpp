@@ -37,6 +37,8 @@ public:
     [[nodiscard]] Shell& shell() { return shell_; }
     [[nodiscard]] Context& context() { return *context_; }
     [[nodiscard]] const Journal& journal() const { return journal_; }
+    // Writes the journal as a scenario. Faults pass to the caller.
+    void save_journal(const std::string& path);
     [[nodiscard]] const std::string& app_folder() const { return app_folder_; }
 
     // Runs after every event and before every modal box: the surface copies what has changed.
