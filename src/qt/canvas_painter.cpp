@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QPainter>
+#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -139,6 +140,11 @@ private:
             return;
         }
         painter_.setRenderHint(QPainter::Antialiasing, sparse);
+        if (pen_width() <= 1) {
+            painter_.setPen(QPen(qt_colour(colour_), 1));
+            painter_.drawPolyline(QPolygonF(QList<QPointF>(curve_.begin(), curve_.end())));
+            return;
+        }
         // Line by line: the outline of a whole wide curve takes Qt a hundred times longer.
         painter_.setPen(QPen(qt_colour(colour_), pen_width(), Qt::SolidLine, Qt::SquareCap));
         for (std::size_t i = 1; i < curve_.size(); ++i) painter_.drawLine(curve_[i - 1], curve_[i]);

@@ -90,9 +90,7 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
     standards->addLayout(
         button_row(window, {&f.cmdModiSet, &f.cmdSeq}, {&f.cmdOK, &f.cmdBack, &f.cmdNext, &f.cmdClose}));
 
-    auto* whole = new QVBoxLayout(window.body());
-    for (const Control* panel : {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}) whole->addWidget(window.of(*panel));
-
+    window.body()->setLayout(column_of(window, {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}));
     window.body()->setMinimumSize(680, 420);  // also for the small panels
     window.set_default_buttons({&f.cmdNext, &f.cmdOK, &f.cmdOK1, &f.Command9});
     window.set_escape_buttons({&f.cmdBack});

@@ -194,10 +194,12 @@ void lay_out_time(FormWindow& window, const Frm2Time& f, const RunState& rs) {
         window.of(*above)->raise();
 
     window.setMinimumSize(480, 320);
-    window.set_arranger([&window, head, status] {
+    window.set_arranger([&window, &f, head, status] {
         const QSize room = window.body()->size();
         head->setGeometry(0, 0, room.width(), strip_height);
-        status->setGeometry(8, room.height() - status_height - 9, room.width() - 300, status_height);
+        // Beside the buttons of the way, as far as they reach to the left.
+        const int buttons = f.cmsSettings.placed ? pixels(f.cmsSettings.left) : room.width();
+        status->setGeometry(8, room.height() - status_height - 10, buttons - 16, status_height);
     });
     window.set_default_buttons({&f.cmdNext});
     window.set_escape_buttons({&f.cmdBack});
