@@ -115,9 +115,10 @@ std::optional<Colour> deviation_colour(double d) {
 
 void mark_shown(Context& context) {
     const Frm3Matrix& form = context.forms.frm3_Matrix;
+    // Two are on together only from the settings: the later one of the presets lies over the other.
     if (form.chkShowMinMax.on()) mark_extremes(context);
-    if (form.chkShowStDev.on()) mark_deviations(context);
     if (form.chkShowGrubbs.on()) mark_grubbs(context);
+    if (form.chkShowStDev.on()) mark_deviations(context);
     context.forms.frm3_Matrix.FlexGrid1.touch();
 }
 
