@@ -179,19 +179,25 @@ std::string difference(const RunState& a, const RunState& b) {
     return found;
 }
 
-class RandomWalk : public ::testing::TestWithParam<std::pair<const char*, unsigned>> {};
+struct Road {
+    std::string mode;
+    unsigned seed;
+};
+std::ostream& operator<<(std::ostream& out, const Road& road) { return out << road.mode << ' ' << road.seed; }
+
+class RandomWalk : public ::testing::TestWithParam<Road> {};
 
 TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
     const test::TempFolder base;
     const fs::path work = base.path("work");
     lay_out_kit(work);
-    Dice dice(GetParam().second);
+    Dice dice(GetParam().seed);
     RandomPlatform os(dice, work.string());
     Program program(os, (work / "start-kit").string());
     program.start(0);
     Event mode;
     mode.window = "frm1_Settings";
-    mode.control = GetParam().first;
+    mode.control = GetParam().mode;
     program.dispatch(mode);
     std::map<std::string, int> visits;
     for (int i = 0; i < 800 && !program.ended(); ++i) {
@@ -225,9 +231,9 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Roads, RandomWalk,
-                         ::testing::Values(std::pair{"optData", 1U}, std::pair{"optData", 2U},
-                                           std::pair{"optCreatSTM", 3U}, std::pair{"optCreatSTM", 4U},
-                                           std::pair{"optCreatBLK", 5U}, std::pair{"optCreatBLK", 6U}));
+                         ::testing::Values(Road{"optData", 1}, Road{"optData", 2}, Road{"optCreatSTM", 3},
+                                           Road{"optCreatSTM", 4}, Road{"optCreatBLK", 5}, Road{"optCreatBLK", 6}),
+                         [](const auto& walk) { return walk.param.mode + std::to_string(walk.param.seed); });
 
 }  // namespace
 }  // namespace kolvar::scenario
