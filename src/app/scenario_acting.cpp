@@ -188,8 +188,11 @@ void type(Session& session, Words& words) {
     if (control.locked || control.text == text) return;  // typing changes nothing
     Event event = event_of(control, EventKind::type);
     event.text = text;
+    if (field == nullptr) {  // a list that is only chosen from: the program takes the text as that of its field
+        send(session, event);
+        return;
+    }
     carry_out(session, event, [&] {
-        if (field == nullptr) return;
         field->selectAll();
         if (text.empty()) {
             field->del();

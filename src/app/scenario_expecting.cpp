@@ -8,6 +8,7 @@
 #include "app/scenario_session.hpp"
 #include "core/files.hpp"
 #include "core/inspector.hpp"
+#include "core/numbers.hpp"
 
 namespace kolvar::scenario {
 namespace {
@@ -15,8 +16,6 @@ namespace {
 using Box = ScenarioPlatform::Box;
 
 std::string box_text(const Box& box) { return box.kind + " " + json_text(box.text) + " title " + json_text(box.title); }
-
-bool answered(const Box& box) { return !box.answer.empty(); }
 
 // Warnings come strictly in their order. A question or the box of a fault was answered already and may be passed over.
 void expect_message(Session& session, Words& words) {
@@ -33,8 +32,8 @@ void expect_message(Session& session, Words& words) {
             box.expected = true;
             return;
         }
-        if (oldest == nullptr || !answered(box)) oldest = &box;
-        if (!answered(box)) break;
+        if (oldest == nullptr || !box.optional) oldest = &box;
+        if (!box.optional) break;
     }
     throw Unmet{std::string("a message ") + (part ? "that has " : "") + json_text(text) +
                     (title ? " title " + json_text(*title) : ""),
@@ -43,7 +42,7 @@ void expect_message(Session& session, Words& words) {
 
 void expect_no_message(const Session& session) {
     for (const Box& box : session.os.boxes)
-        if (!box.expected && !answered(box)) throw Unmet{"no message", box_text(box)};
+        if (!box.expected && !box.optional) throw Unmet{"no message", box_text(box)};
 }
 
 void expect_ended(Session& session, Words& words) {
@@ -75,8 +74,13 @@ void expect_dialog(Session& session, Words& words) {
     if (filter && dialog.filter != *filter) throw Unmet{"filter " + json_text(*filter), json_text(dialog.filter)};
     if (index && dialog.index != *index)
         throw Unmet{"filter index " + std::to_string(*index), std::to_string(dialog.index)};
-    // A proposed path counts by its file name too: the scenario can't know the folder of its run.
-    if (name && dialog.name != *name && file_name(dialog.name) != *name)
+    // A proposed path counts by its last parts too: the scenario can't know the folder of its run.
+    const auto ends_with_name = [&] {
+        const std::size_t size = dialog.name.size(), part = name->size();
+        return size > part && dialog.name.ends_with(*name) &&
+               std::string_view("/\\").find(dialog.name[size - part - 1]) != std::string_view::npos;
+    };
+    if (name && dialog.name != *name && !(!name->empty() && ends_with_name()))
         throw Unmet{"proposed name " + json_text(*name), json_text(dialog.name)};
 }
 
@@ -240,15 +244,25 @@ void expect_control(Session& session, const std::string& name, Words& words) {
     throw Wrong{"unknown test of a control: " + wanted};
 }
 
-// A number matches a number, a text a text. Truth values match their numbers: true is -1.
+bool holds_nothing(const Value& value) { return value.is_unset() || value == Value(""); }
+
+// The number that a cell stands for: a number, a text that is one as a whole, or a truth value.
+std::optional<double> number_in(const Value& value) {
+    if (value.is_number() || value.is_bool()) return value.number();
+    if (value.is_text() && is_numeric(value.text())) return leading_number(value.text()).number;
+    return std::nullopt;
+}
+
+// Whether a cell holds a number or the text of that number is the program's affair; two texts must be the same. Nothing
+// (unset, "") is no number. True is -1, as in files, or 1, as in flags.
 bool matches(const Value& got, const Value& wanted, double tolerance) {
-    if (got.is_number() && wanted.is_number()) {
-        const double difference = std::abs(got.number() - wanted.number());
-        return difference <= tolerance * std::abs(wanted.number());
-    }
-    const bool truths =
-        (got.is_bool() && (wanted.is_number() || wanted.is_bool())) || (wanted.is_bool() && got.is_number());
-    return truths ? got.number() == wanted.number() : got == wanted;
+    if (got == wanted) return true;
+    if (holds_nothing(got) || holds_nothing(wanted)) return holds_nothing(got) && holds_nothing(wanted);
+    if (got.is_text() && wanted.is_text()) return false;
+    const std::optional<double> one = number_in(got), other = number_in(wanted);
+    if (!one || !other) return false;
+    if (got.is_bool() || wanted.is_bool()) return std::abs(*one) == std::abs(*other);
+    return std::abs(*one - *other) <= tolerance * std::abs(*other);
 }
 
 void expect_field(Session& session, const std::string& name, Words& words) {

@@ -22,12 +22,20 @@ Call read_call(int argc, char** argv) {
     Call call;
     for (int at = 1; at < argc; ++at) {
         const std::string word = argv[at];
-        const bool has_folder = at + 1 < argc;
-        if (word == "--app-folder" && has_folder) {
-            call.options.app_folder = argv[++at];
-        } else if (word == "--work" && has_folder) {
-            call.options.work = argv[++at];
-        } else if (word == "--keep-going") {
+        // "--work DIR" or "--work=DIR"
+        const auto takes_folder = [&](const std::string& option, std::string& folder) {
+            if (word.starts_with(option + "=")) {
+                folder = word.substr(option.size() + 1);
+            } else if (word == option && at + 1 < argc) {
+                folder = argv[++at];
+            } else {
+                return false;
+            }
+            return true;
+        };
+        if (takes_folder("--app-folder", call.options.app_folder) || takes_folder("--work", call.options.work))
+            continue;
+        if (word == "--keep-going") {
             call.options.keep_going = true;
         } else if (word.starts_with("--")) {
             call.well_formed = false;

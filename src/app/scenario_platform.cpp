@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <ctime>
+#include <utility>
+
+#include "core/files.hpp"
 
 namespace kolvar::scenario {
 namespace {
@@ -47,36 +50,36 @@ std::string with_line_feeds(const std::string& text) {
 
 std::optional<ScenarioPlatform::Answer> ScenarioPlatform::next(AnswerKind one, AnswerKind other,
                                                                const std::string& asked) {
-    if (answers.empty()) {
-        if (unanswered.empty()) unanswered = asked + " has no answer";
-        return std::nullopt;
+    const auto fits = [&](const Answer& answer) { return answer.kind == one || answer.kind == other; };
+    const auto found = std::find_if(answers.begin(), answers.end(), fits);
+    if (found != answers.end()) {
+        Answer answer = std::move(*found);
+        answers.erase(found);
+        return answer;
     }
-    const Answer answer = answers.front();
-    if (answer.kind != one && answer.kind != other) {
-        if (unanswered.empty())
-            unanswered =
-                asked + " came up where \"answer " + answer_word(answer.kind) + "\" was next (" + answer.where + ")";
-        return std::nullopt;
-    }
-    answers.pop_front();
-    return answer;
+    if (!unanswered.empty()) return std::nullopt;
+    unanswered = asked + " has no answer";
+    if (!answers.empty())
+        unanswered += std::string(", only \"answer ") + answer_word(answers.front().kind) + "\" is left (" +
+                      answers.front().where + ")";
+    return std::nullopt;
 }
 
 void ScenarioPlatform::warn(const std::string& text, const std::string& title) {
-    boxes.push_back({with_line_feeds(text), title, "warning", "", where});
+    boxes.push_back({with_line_feeds(text), title, "warning", "", where, std::exchange(document_missing_, false)});
 }
 
 bool ScenarioPlatform::ask(const std::string& text, const std::string& title) {
     const auto answer = next(AnswerKind::yes, AnswerKind::no, "the question \"" + text + "\"");
     const bool yes = answer && answer->kind == AnswerKind::yes;
-    boxes.push_back({with_line_feeds(text), title, "question", yes ? "yes" : "no", where});
+    boxes.push_back({with_line_feeds(text), title, "question", yes ? "yes" : "no", where, true});
     return yes;
 }
 
 Platform::FaultAnswer ScenarioPlatform::fault(const std::string& text) {
     const auto answer = next(AnswerKind::end, AnswerKind::go_on, "the box of a fault \"" + text + "\"");
     const bool end = !answer || answer->kind == AnswerKind::end;
-    boxes.push_back({with_line_feeds(text), "KOLVAR", "fault", end ? "end" : "continue", where});
+    boxes.push_back({with_line_feeds(text), "KOLVAR", "fault", end ? "end" : "continue", where, true});
     return end ? FaultAnswer::end : FaultAnswer::go_on;
 }
 
@@ -100,7 +103,9 @@ std::string ScenarioPlatform::choose_folder(const std::string&) {
 
 bool ScenarioPlatform::open_document(const std::string& path) {
     documents.push_back(path);
-    return true;
+    const bool on_web = path.starts_with("http://") || path.starts_with("https://");
+    document_missing_ = !on_web && !file_exists(path);
+    return !document_missing_;
 }
 
 DateTime ScenarioPlatform::now() {

@@ -23,6 +23,7 @@ public:
         std::string text, title, kind;  // kind: warning, question, fault
         std::string answer;             // yes, no, end, continue; "" for a warning
         std::string where;              // FILE:LINE of what made it appear
+        bool optional = false;          // may be passed over: it was answered, or tells of a missing document
         bool expected = false;
     };
 
@@ -52,8 +53,10 @@ public:
     std::size_t room_on_disk(std::size_t wanted) override;
 
 private:
-    // The next answer if it is one of the two kinds; else notes that `asked` has none.
+    // The oldest answer of one of the two kinds; notes that `asked` has none when there is no such answer.
     std::optional<Answer> next(AnswerKind one, AnswerKind other, const std::string& asked);
+
+    bool document_missing_ = false;  // the next box tells so
 };
 
 // Line breaks as LF.

@@ -124,6 +124,8 @@ bool change_files(const std::string& command, Words& words) {
     } else if (command == "folder") {
         const std::string path = words.path();
         words.finish();
+        if (fs::is_regular_file(path)) fs::remove(path, error);  // the folder takes its place
+        check(path);
         fs::create_directories(path, error);
         check(path);
     } else if (command == "write") {

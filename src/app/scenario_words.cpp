@@ -12,6 +12,15 @@ namespace {
 
 bool is_blank(char c) { return c == ' ' || c == '\t'; }
 
+// A byte as two digits of a hexadecimal number: files that are no text.
+char byte_at(std::string_view digits) {
+    int byte = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
+    if (error != std::errc() || digits.size() != 2 || end != digits.data() + 2 || byte < 0)
+        throw Wrong{"two hexadecimal digits should stand behind \\x"};
+    return static_cast<char>(static_cast<unsigned char>(byte));
+}
+
 // Reads a text whose opening quote is at `at`; leaves `at` behind the closing one.
 std::string quoted_text(std::string_view line, std::size_t& at) {
     std::string out;
@@ -38,6 +47,10 @@ std::string quoted_text(std::string_view line, std::size_t& at) {
                     break;
                 case '\\':
                     c = '\\';
+                    break;
+                case 'x':
+                    c = byte_at(line.substr(at + 1, 2));
+                    at += 2;
                     break;
                 default:
                     throw Wrong{std::string("unknown sign \\") + line[at] + " in a text"};

@@ -38,6 +38,28 @@ TEST(ScenarioPlatform, AQuestionWithoutItsAnswerIsNoted) {
     EXPECT_EQ(other.answers.size(), 1U);
 }
 
+TEST(ScenarioPlatform, AnAnswerWaitsForWhatItFits) {
+    ScenarioPlatform os;
+    os.answers = {{AnswerKind::yes, "", "a:1"}, {AnswerKind::save, "x.txt", "a:2"}, {AnswerKind::no, "", "a:3"}};
+    EXPECT_EQ(os.save_file({}), "x.txt");
+    EXPECT_TRUE(os.ask("Overwrite?", ""));
+    EXPECT_FALSE(os.ask("Again?", ""));
+    EXPECT_EQ(os.unanswered, "");
+    EXPECT_TRUE(os.answers.empty());
+}
+
+TEST(ScenarioPlatform, TheBoxOfAMissingDocumentMayBePassedOver) {
+    ScenarioPlatform os;
+    EXPECT_FALSE(os.open_document("no/such/document.pdf"));
+    os.warn("not found", "KOLVAR");
+    os.warn("another box", "KOLVAR");
+    EXPECT_TRUE(os.open_document("https://example.org"));
+    EXPECT_EQ(os.documents, (std::vector<std::string>{"no/such/document.pdf", "https://example.org"}));
+    ASSERT_EQ(os.boxes.size(), 2U);
+    EXPECT_TRUE(os.boxes[0].optional);
+    EXPECT_FALSE(os.boxes[1].optional);
+}
+
 TEST(ScenarioPlatform, WarningsAreRecordedWithLineFeeds) {
     ScenarioPlatform os;
     os.where = "a:9";

@@ -25,6 +25,10 @@ TEST(ScenarioWords, TextsStandInQuotesWithTheirEscapes) {
     EXPECT_EQ(texts(R"(write a "one\r\ntwo\t\"three\"\\ ")"), (Texts{"write", "a", "q:one\r\ntwo\t\"three\"\\ "}));
     EXPECT_EQ(texts(R"(expect SelLow "")"), (Texts{"expect", "SelLow", "q:"}));
     EXPECT_EQ(texts("x \"\xC2\xB1\""), (Texts{"x", "q:\xC2\xB1"}));
+    EXPECT_EQ(texts(R"(write a "\x89PNG\xfF")"), (Texts{"write", "a", "q:\x89PNG\xFF"}));
+    EXPECT_THROW(split_words(R"(write a "\x8")"), Wrong);
+    EXPECT_THROW(split_words(R"(write a "\xg8")"), Wrong);
+    EXPECT_THROW(split_words(R"(write a "\x-8")"), Wrong);
     EXPECT_THROW(split_words(R"(write a "one)"), Wrong);
     EXPECT_THROW(split_words(R"(write a "one\)"), Wrong);
     EXPECT_THROW(split_words(R"(write a "one\q")"), Wrong);
