@@ -122,7 +122,6 @@ void open_time_window(Context& context) {
                                              &form.cmdShowConc, &form.cmdAppQuick, &form.lblMaxIIS2})
             of_concentrations->visible = false;
     form.cmdCopyRatios.visible = data;
-    form.pict1.sized_by_hand = form.pict2.sized_by_hand = false;
     lay_out_time_window(context);
     show_limits(context);
     form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = rs.SelN.val() != 0;

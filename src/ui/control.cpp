@@ -14,7 +14,9 @@ Control::Control(Form& window, ControlKind of_kind, std::string named, std::stri
 }
 
 void Control::set_value(int new_value) {
-    if (value == new_value) return;
+    // A list whose field was typed into shows another text than its entry: choosing the entry is a change.
+    const bool listed = kind == ControlKind::list && new_value >= 0 && new_value < static_cast<int>(items.size());
+    if (value == new_value && (!listed || text == items[static_cast<std::size_t>(new_value)])) return;
     set_value_quietly(new_value);
     if (changed) changed();
 }
