@@ -12,6 +12,8 @@ namespace kolvar {
 
 namespace {
 
+constexpr const char* default_settings = "Kolvar-default-h.set";
+
 // The folder of the start kit, from the file that names it.
 void read_start_path(RunState& rs, Platform& os, const std::string& name) {
     const Running running(rs, "read_start_path");
@@ -33,7 +35,7 @@ void start_internal_standard_path(Context& context) {
     RunState& rs = context.rs;
     read_start_path(rs, context.os, "start_path");
 
-    rs.SettingsName = "Kolvar-default-h.set";
+    rs.SettingsName = default_settings;
     rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
     // While nobody has named the kit's folder its paths are a name behind a lone separator. A file that happens to lie
     // there, in the root of the disk, is none of the kit: each load fails with its own message.
@@ -79,9 +81,11 @@ void start_internal_standard_path(Context& context) {
 
 std::string start_kit_folder(const RunState& rs, const std::string& named) {
     const std::string folder = native_path(named);
+    if (!is_relative_path(folder) || folder_exists(folder)) return folder;
     const std::string beside_program = join_path(rs.AppPath1, folder);
-    if (is_relative_path(folder) && !folder_exists(folder) && folder_exists(beside_program)) return beside_program;
-    return folder;
+    if (folder_exists(beside_program)) return beside_program;
+    // A kit that was copied under another name, start path and all, is found where its start path lies.
+    return file_exists(join_path(rs.AppPath1, default_settings)) ? rs.AppPath1 : folder;
 }
 
 std::string reference_path(const RunState& rs, const std::string& named) {
