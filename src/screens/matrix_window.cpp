@@ -47,10 +47,8 @@ void cmdNext(Context& context) {
     RunState& rs = context.rs;
     keep_rejection_model(context);
     ReadRejections(context);
-    if (!rs.OutText.empty()) {
-        context.shell.close(context.forms.frm_Omit);  // a list that is still open is filled anew
-        return context.shell.open(context.forms.frm_Omit);
-    }
+    context.shell.close(context.forms.frm_Omit);  // a list that is still open no longer holds
+    if (!rs.OutText.empty()) return context.shell.open(context.forms.frm_Omit);
     ComputeConcentrations(rs, context.os);
     if (rs.ModeData == 1) {
         context.shell.open(context.forms.frm4_Output);
@@ -63,6 +61,7 @@ void cmdNext(Context& context) {
 
 void cmdBack(Context& context) {
     context.rs.SelCount += 1;
+    context.shell.close(context.forms.frm_Omit);
     context.shell.open(context.forms.frm2_Time);
     context.shell.close(context.forms.frm3_Matrix);
 }

@@ -62,7 +62,11 @@ public:
         program_.journal_.clock(when);
         return when;
     }
-    std::string decimal_sign() override { return os_.decimal_sign(); }
+    std::string decimal_sign() override {
+        std::string sign = os_.decimal_sign();
+        if (sign != ".") program_.journal_.before("decimal " + scenario_quoted(sign));
+        return sign;
+    }
     std::size_t room_on_disk(std::size_t wanted) override { return os_.room_on_disk(wanted); }
 
 private:

@@ -173,5 +173,25 @@ TEST_F(Dispatcher, JournalHoldsEventsWithTheirAnswersBeforeAndTheirBoxesBehindTh
                      "choose frm_ChoseDir.Dir1 \"C:\\\\kit\""}));
 }
 
+TEST_F(Dispatcher, JournalHoldsWhatTheProgramWasToldByTheMachine) {
+    struct CommaMachine : ScriptedPlatform {
+        std::string decimal_sign() override { return ","; }
+    } machine;
+    machine.clip = "a\tb\n";
+    Program there(machine, folder.path());
+    there.on(there.forms().frm1_Settings, "cmdModiSet", EventKind::click, [&](const Event&) {
+        EXPECT_EQ(there.context().os.clipboard(), "a\tb\n");
+        EXPECT_EQ(there.context().os.decimal_sign(), ",");
+        EXPECT_EQ(there.context().os.now().year, 2009);
+        EXPECT_TRUE(there.context().os.ask("Go on?"));
+    });
+    machine.yes_or_no.push_back(true);
+    there.start(0);
+    there.dispatch(event_of(EventKind::click, there.forms().frm1_Settings, "cmdModiSet"));
+    EXPECT_EQ(there.journal().lines(),
+              (Names{"start", "clipboard \"a\\tb\\n\"", "decimal \",\"", "today 2009-01-07 14:03:22", "answer yes",
+                     "click frm1_Settings.cmdModiSet", "expect message \"Go on?\" title \"\""}));
+}
+
 }  // namespace
 }  // namespace kolvar::test
