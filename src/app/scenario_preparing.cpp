@@ -8,6 +8,7 @@
 #include "app/scenario_session.hpp"
 #include "core/files.hpp"
 #include "core/inspector.hpp"
+#include "screens/settings_panels.hpp"
 
 namespace kolvar::scenario {
 namespace {
@@ -83,6 +84,9 @@ void put_field(Session& session, Words& words) {
     guarded([&] { field_put(program.state(), field.name, value, i, j); },
             [&](const Fault& fault) { refused = fault.what(); });
     if (!refused.empty()) throw Wrong{field.name + " can't hold " + json_value(value) + ": " + refused};
+    // No event of a window tells of the new value: what always shows it is told here.
+    follow_number_of_standards(program.context());
+    if (program.on_change) program.on_change();
 }
 
 void set_disk(Session& session, Words& words) {

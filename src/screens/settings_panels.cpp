@@ -44,15 +44,6 @@ void fill_lists(Context& context) {
     form.comboIso3.show_item(rs.IsoName(rs.IS3col.val()));
 }
 
-void follow_number_of_standards(Context& context) {
-    Frm1Settings& form = context.forms.frm1_Settings;
-    const double standards = context.rs.setISnum.val();
-    show({&form.comboIso2, &form.txtISppm2, &form.txtISerr2, &form.lblIntHead}, standards > 1);
-    show({&form.comboIso3, &form.txtISppm3, &form.txtISerr3}, standards == 3);
-    if (standards == 2) form.lblIntHead.text = "Two Internal Standards";
-    if (standards == 3) form.lblIntHead.text = "Three Internal Standards";
-}
-
 void show_panel(Frm1Settings& form, const Panel& panel, const char* title) {
     for (Panel* each : {&form.pict_IS, &form.pict_UT, &form.pict_FLEX}) each->visible = each == &panel;
     form.title = title;
@@ -98,6 +89,15 @@ void activate_flex(Context& context) {
 }  // namespace
 
 std::string shown_name(const std::string& name) { return "  " + name + "  "; }
+
+void follow_number_of_standards(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    const double standards = context.rs.setISnum.val();
+    show({&form.comboIso2, &form.txtISppm2, &form.txtISerr2, &form.lblIntHead}, standards > 1);
+    show({&form.comboIso3, &form.txtISppm3, &form.txtISerr3}, standards == 3);
+    if (standards == 2) form.lblIntHead.text = "Two Internal Standards";
+    if (standards == 3) form.lblIntHead.text = "Three Internal Standards";
+}
 
 void follow_mode(Context& context) {
     Frm1Settings& form = context.forms.frm1_Settings;
