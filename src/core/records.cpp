@@ -115,6 +115,8 @@ RecordWriter& RecordWriter::field(const Value& value) {
         bytes_ += '"';
         for (const char c : value.text()) bytes_ += c == '"' ? '\'' : c;
         bytes_ += '"';
+    } else if (value.is_bool()) {
+        bytes_ += value.number() != 0 ? "#TRUE#" : "#FALSE#";
     } else if (!value.is_unset()) {
         bytes_ += decimal(value.number());
     }

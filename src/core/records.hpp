@@ -40,8 +40,9 @@ private:
     bool after_comma_ = false;  // a field is owed, even an empty one
 };
 
-// Writes fields: texts in double quotes (a double quote inside becomes an apostrophe), numbers in decimal form, "" as
-// two quotes, unset as nothing; fields joined by a comma, each record ends in CR LF.
+// Writes fields: texts in double quotes (a double quote inside becomes an apostrophe), numbers in decimal form,
+// booleans as #TRUE# and #FALSE#, "" as two quotes, unset as nothing; fields joined by a comma, each record ends in
+// CR LF.
 class RecordWriter {
 public:
     RecordWriter& field(const Value& value);

@@ -163,9 +163,16 @@ TEST(RecordWriter, WritesTheStrictForm) {
     RecordWriter writer;
     writer.field("Si29").field(1.5).field(0.02 * 1000);
     writer.end_record();
-    writer.field(5.12E-6).field("").field(Value()).field(true);
+    writer.field(5.12E-6).field("").field(Value()).field(true).field(false);
     writer.end_record();
-    EXPECT_EQ(writer.bytes(), "\"Si29\",1.5,20\r\n0.00000512,\"\",,-1\r\n");
+    EXPECT_EQ(writer.bytes(), "\"Si29\",1.5,20\r\n0.00000512,\"\",,#TRUE#,#FALSE#\r\n");
+}
+
+TEST(RecordWriter, ABooleanReadsBackAsItsNumber) {
+    RecordWriter writer;
+    writer.field(true).field(false);
+    writer.end_record();
+    EXPECT_EQ(fields_of(writer.bytes()), (Fields{Value(-1), Value(0)}));
 }
 
 TEST(RecordWriter, ADoubleQuoteInsideATextBecomesAnApostrophe) {
