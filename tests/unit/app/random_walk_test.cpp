@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <memory>
 #include <random>
@@ -158,6 +159,8 @@ void lay_out_kit(const fs::path& work) {
     fs::remove_all(work);
     fs::create_directories(work);
     fs::copy(fs::path(KOLVAR_SOURCE_DIR) / "start-kit", work / "start-kit", fs::copy_options::recursive);
+    // The whole path: the walk and its replay have different current folders.
+    std::ofstream(work / "start-kit" / "start_path") << '"' << (work / "start-kit").string() << "\"\r\n";
 }
 
 // The first cells that differ, by name.
