@@ -6,20 +6,20 @@
 namespace kolvar {
 
 enum class EventKind {
-    click,        // left click on a button, check box, option, label, picture or menu entry
-    dblclick,     // on a control, or on the window itself (control "")
-    type,         // text: the whole new text of an entry or of a list's field
-    enter,        // Enter pressed in a control
-    leave,        // the focus leaves a control
-    choose,       // value: index of a list's entry; of a folder list, text: the folder
-    scroll,       // value: new value of a scroll bar
-    press,        // mouse button down on a picture: button, shift, x, y
-    release,      // mouse button up on a picture
-    drag,         // the control is dropped on target(target_index)
-    cell_click,   // row, col of a grid; 0 are the headers
+    click,       // left click on a button, check box, option, label, picture or menu entry
+    dblclick,    // on a control, or on the window itself (control "")
+    type,        // text: the whole new text of an entry or of a list's field
+    enter,       // Enter pressed in a control
+    leave,       // the focus leaves a control
+    choose,      // value: index of a list's entry; of a folder list, text: the folder
+    scroll,      // value: new value of a scroll bar
+    press,       // mouse button down on a picture: button, shift, x, y
+    release,     // mouse button up on a picture
+    drag,        // the control is dropped on target(target_index)
+    cell_click,  // row, col of a grid; 0 are the headers
     cell_dblclick,
-    resize,       // x, y: new width and height, twips; control "": of the window, else of a picture
-    close,        // the window's close box
+    resize,  // x, y: new width and height, twips; control "": of the window, else of a picture
+    close,   // the window's close box
 };
 
 struct Event {

@@ -11,12 +11,23 @@ std::string scenario_quoted(const std::string& text) {
     std::string quoted = "\"";
     for (const char c : text) {
         switch (c) {
-            case '\n': quoted += "\\n"; break;
-            case '\r': quoted += "\\r"; break;
-            case '\t': quoted += "\\t"; break;
-            case '"': quoted += "\\\""; break;
-            case '\\': quoted += "\\\\"; break;
-            default: quoted += c;
+            case '\n':
+                quoted += "\\n";
+                break;
+            case '\r':
+                quoted += "\\r";
+                break;
+            case '\t':
+                quoted += "\\t";
+                break;
+            case '"':
+                quoted += "\\\"";
+                break;
+            case '\\':
+                quoted += "\\\\";
+                break;
+            default:
+                quoted += c;
         }
     }
     return quoted + "\"";
@@ -42,25 +53,35 @@ std::string mouse(const Event& event) {
 std::string scenario_line(const Event& event) {
     const std::string where = address(event.window, event.control, event.index);
     switch (event.kind) {
-        case EventKind::click: return "click " + where;
-        case EventKind::dblclick: return "dblclick " + where;
-        case EventKind::type: return "type " + where + " " + scenario_quoted(event.text);
-        case EventKind::enter: return "enter " + where;
-        case EventKind::leave: return "leave " + where;
+        case EventKind::click:
+            return "click " + where;
+        case EventKind::dblclick:
+            return "dblclick " + where;
+        case EventKind::type:
+            return "type " + where + " " + scenario_quoted(event.text);
+        case EventKind::enter:
+            return "enter " + where;
+        case EventKind::leave:
+            return "leave " + where;
         case EventKind::choose:
             return "choose " + where + " " +
                    (event.text.empty() ? std::to_string(event.value) : scenario_quoted(event.text));
-        case EventKind::scroll: return "scroll " + where + " " + std::to_string(event.value);
+        case EventKind::scroll:
+            return "scroll " + where + " " + std::to_string(event.value);
         case EventKind::press:
             return "press " + where + mouse(event) + " " + decimal(event.x) + " " + decimal(event.y);
-        case EventKind::release: return "release " + where;
-        case EventKind::drag: return "drag " + where + " " + address(event.window, event.target, event.target_index);
+        case EventKind::release:
+            return "release " + where;
+        case EventKind::drag:
+            return "drag " + where + " " + address(event.window, event.target, event.target_index);
         case EventKind::cell_click:
             return "cell " + where + " click " + std::to_string(event.row) + " " + std::to_string(event.col);
         case EventKind::cell_dblclick:
             return "cell " + where + " dblclick " + std::to_string(event.row) + " " + std::to_string(event.col);
-        case EventKind::resize: return "resize " + where + " " + decimal(event.x) + " " + decimal(event.y);
-        case EventKind::close: return "close " + where;
+        case EventKind::resize:
+            return "resize " + where + " " + decimal(event.x) + " " + decimal(event.y);
+        case EventKind::close:
+            return "close " + where;
     }
     return {};
 }

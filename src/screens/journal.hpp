@@ -10,7 +10,8 @@ namespace kolvar {
 
 class Journal {
 public:
-    // What an event needs before it (answers, the clipboard, the clock), the event itself, and the boxes that it showed.
+    // What an event needs before it (answers, the clipboard, the clock), the event itself, and the boxes that it
+    // showed.
     void before(std::string line) { before_.push_back(std::move(line)); }
     void after(std::string line) { after_.push_back(std::move(line)); }
     // Closes the event that runs: moves its lines to the list.

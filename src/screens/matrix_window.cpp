@@ -73,8 +73,8 @@ void connect_matrix_window(Program& program) {
     Frm3Matrix& form = context.forms.frm3_Matrix;
     program.shell().set_hooks(form, {[&context] { load_matrix(context); }, {}});
 
-    form.optCPS.changed = form.optCpsSD.changed = form.optIIS.changed = form.optIisSD.changed =
-        [&context] { FillTable(context); };
+    form.optCPS.changed = form.optCpsSD.changed = form.optIIS.changed =
+        form.optIisSD.changed = [&context] { FillTable(context); };
     form.chkShowMinMax.changed = [&context] { switch_show_min_max(context); };
     form.chkShowStDev.changed = [&context] { switch_show_deviation(context); };
     form.chkShowGrubbs.changed = [&context] { switch_show_grubbs(context); };

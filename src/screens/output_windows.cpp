@@ -89,10 +89,8 @@ void connect_output_windows(Program& program) {
     Context& context = program.context();
     Frm4Output& form = context.forms.frm4_Output;
     Frm5Preview& preview = context.forms.frm5_Preview;
-    program.shell().set_hooks(form, {[&context] {
-                                         context.forms.frm4_Output.lblkivagy.text = shown_name(context.rs.DataFileName);
-                                     },
-                                     {}});
+    program.shell().set_hooks(
+        form, {[&context] { context.forms.frm4_Output.lblkivagy.text = shown_name(context.rs.DataFileName); }, {}});
     program.shell().set_hooks(preview, {[&context] { load_preview(context); }, {}});
 
     const auto click = [&](const Form& window, const std::string& control, void (*handler)(Context&)) {

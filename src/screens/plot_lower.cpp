@@ -99,8 +99,8 @@ void draw_lower_plot(Context& context) {
         const std::string maximum = Format(rs.MaxRatio, pattern_by_size(rs.MaxRatio));
         show_maximum(frm.pict2, frm.lblMaxIIS, maximum);
         // The same number once more, at the right end of the plot, where the zoom bar stands.
-        show_label(frm.pict2.canvas, frm.lblMaxIIS2, maximum,
-                   frm.pict2.left + frm.pict2.width - frm.lblMaxIIS2.width, frm.pict2.top - frm.lblMaxIIS2.height - 15);
+        show_label(frm.pict2.canvas, frm.lblMaxIIS2, maximum, frm.pict2.left + frm.pict2.width - frm.lblMaxIIS2.width,
+                   frm.pict2.top - frm.lblMaxIIS2.height - 15);
     }
     const Area area = lower_area(frm);
     const std::vector<double> x = slice_positions(area.width, rs.nSlices);

@@ -100,8 +100,10 @@ std::string fault_box_text(const Fault& fault, const char* procedure) {
 }  // namespace
 
 Program::Program(Platform& os, std::string app_folder)
-    : app_folder_(std::move(app_folder)), gate_(std::make_unique<Gate>(os, *this)),
-      state_(std::make_unique<RunState>()), forms_(std::make_unique<Forms>()),
+    : app_folder_(std::move(app_folder)),
+      gate_(std::make_unique<Gate>(os, *this)),
+      state_(std::make_unique<RunState>()),
+      forms_(std::make_unique<Forms>()),
       context_(std::make_unique<Context>(Context{*state_, *forms_, *gate_, shell_})) {
     connect_screens(*this);
 }
@@ -113,8 +115,7 @@ void Program::on(const Form& form, const std::string& control, EventKind kind, H
 }
 
 void Program::start(int method) {
-    run(method == 0 ? "start" : "start " + std::to_string(method),
-        [&] { start_up(*context_, method, app_folder_); });
+    run(method == 0 ? "start" : "start " + std::to_string(method), [&] { start_up(*context_, method, app_folder_); });
 }
 
 void Program::save_journal(const std::string& path) { replace_file(*gate_, path, journal_.text()); }
@@ -198,7 +199,8 @@ void Program::apply(const Event& event, Form& form) {
                 control->height = static_cast<int>(event.y);
                 control->sized_by_hand = true;
                 break;
-            default: break;
+            default:
+                break;
         }
     } else if (event.kind == EventKind::resize) {
         form.width = static_cast<int>(event.x);

@@ -98,8 +98,7 @@ void connect_report_windows(Program& program) {
         context.forms.frm_ChoseDir.Dir1.text = native_path(event.text);
         context.forms.frm_ChoseDir.lblPath.text = context.forms.frm_ChoseDir.Dir1.text;
     });
-    program.on(forms.frm_ChoseDir, "cmdSave", EventKind::click,
-               [&context](const Event&) { save_start_path(context); });
+    program.on(forms.frm_ChoseDir, "cmdSave", EventKind::click, [&context](const Event&) { save_start_path(context); });
     program.on(forms.frm_ChoseDir, "cmdCancel", EventKind::click,
                [&context](const Event&) { context.shell.close(context.forms.frm_ChoseDir); });
 }

@@ -21,11 +21,11 @@ void show(std::initializer_list<Control*> controls, bool visible) {
 
 // The choice of files (and with it the way out) or the choice of internal standards: one of the two can be used.
 void enable_choices(Frm1Settings& form, bool files) {
-    enable({&form.cmdClose, &form.cmdLoadCSV, &form.cmdLoadSTC, &form.cmdLoadSTM, &form.cmdLoadBLK, &form.cmdLoadDWE,
-            &form.cmdPaste, &form.lblCSV, &form.lblSTC, &form.lblSTM, &form.lblBLK, &form.lblDWE, &form.optData,
-            &form.optCreatSTM, &form.optCreatBLK, &form.optBfromData, &form.optBLKfile, &form.optDweUni,
-            &form.optDWEfile},
-           files);
+    enable(
+        {&form.cmdClose, &form.cmdLoadCSV, &form.cmdLoadSTC, &form.cmdLoadSTM, &form.cmdLoadBLK, &form.cmdLoadDWE,
+         &form.cmdPaste, &form.lblCSV, &form.lblSTC, &form.lblSTM, &form.lblBLK, &form.lblDWE, &form.optData,
+         &form.optCreatSTM, &form.optCreatBLK, &form.optBfromData, &form.optBLKfile, &form.optDweUni, &form.optDWEfile},
+        files);
     enable({&form.cmdNext, &form.cmdBack, &form.comboIso, &form.comboIso2, &form.comboIso3, &form.txtISppm,
             &form.txtISppm2, &form.txtISppm3, &form.txtISerr, &form.txtISerr2, &form.txtISerr3},
            !files);
@@ -174,10 +174,17 @@ void open_settings_window(Context& context) {
 void activate_settings_window(Context& context) {
     const Running running(context.rs, "activate_settings_window");
     switch (context.rs.Method) {
-        case 0: activate_internal_standard(context); break;
-        case 1: activate_uranium_lead(context); break;
-        case 3: activate_flex(context); break;
-        default: break;
+        case 0:
+            activate_internal_standard(context);
+            break;
+        case 1:
+            activate_uranium_lead(context);
+            break;
+        case 3:
+            activate_flex(context);
+            break;
+        default:
+            break;
     }
     follow_number_of_standards(context);
 }

@@ -89,10 +89,10 @@ void cmdNext(Context& context) {
     Frm1Settings& form = context.forms.frm1_Settings;
     rs.Method = 0;
     const double standards = rs.setISnum.val();
-    if (!standard_complete(context, {rs.IS1col, form.txtISppm, form.txtISerr,
-                                     "Choose an internal standard from the list of isotopes.",
-                                     "Enter the concentration of the internal standard.",
-                                     "Enter the error of the concentration of internal standard."}))
+    if (!standard_complete(
+            context, {rs.IS1col, form.txtISppm, form.txtISerr, "Choose an internal standard from the list of isotopes.",
+                      "Enter the concentration of the internal standard.",
+                      "Enter the error of the concentration of internal standard."}))
         return;
     if (standards > 1 &&
         !standard_complete(context, {rs.IS2col, form.txtISppm2, form.txtISerr2,
@@ -150,8 +150,7 @@ void load_settings_from_file(Context& context) {
     RunState& rs = context.rs;
     Frm1Settings& form = context.forms.frm1_Settings;
     const int former_method = rs.Method;
-    rs.SetFilePath =
-        context.os.open_file({"All Files (*.*)|*.*|Setting Files (*.set)|*.set", 2, "", rs.AppPath1});
+    rs.SetFilePath = context.os.open_file({"All Files (*.*)|*.*|Setting Files (*.set)|*.set", 2, "", rs.AppPath1});
     if (rs.SetFilePath.empty()) return;
     rs.SettingsPath = rs.SetFilePath;
     rs.SettingsName = file_name(rs.SettingsPath);
@@ -188,8 +187,8 @@ void open_help(Context& context, const std::string& document) {
 void connect_settings_window(Program& program) {
     Context& context = program.context();
     Frm1Settings& form = context.forms.frm1_Settings;
-    program.shell().set_hooks(form, {[&context] { open_settings_window(context); },
-                                     [&context] { activate_settings_window(context); }});
+    program.shell().set_hooks(
+        form, {[&context] { open_settings_window(context); }, [&context] { activate_settings_window(context); }});
     connect_choices(program);
 
     const auto click = [&](const std::string& control, void (*handler)(Context&)) {
@@ -208,26 +207,32 @@ void connect_settings_window(Program& program) {
     click("cmdDWEinfo", [](Context& c) { show_dwe_info(c.rs, c.os); });
     for (const char* leaving : {"cmdClose", "cmdExitUP", "cmdExitFLEX"})
         click(leaving, [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later :
-         {"cmdPaste", "cmdModiSet", "cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster",
-          "Command6", "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
+    for (const char* later : {"cmdPaste", "cmdModiSet", "cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster",
+                              "Command6", "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
     click("cmdSeq", [](Context& c) { c.shell.open(c.forms.frm_Batch_IS); });
 
     program.on(form, "mnuFile", EventKind::click, [&context](const Event& event) {
         switch (event.index) {
-            case 0: return choose_File(context);
-            case 1: return browse_stc(context);
-            case 2: return browse_stm(context);
-            default: throw ProgramEnd{0};
+            case 0:
+                return choose_File(context);
+            case 1:
+                return browse_stc(context);
+            case 2:
+                return browse_stm(context);
+            default:
+                throw ProgramEnd{0};
         }
     });
     program.on(form, "mnuSettings", EventKind::click, [&context](const Event& event) {
         switch (event.index) {
-            case 0: return load_settings_from_file(context);
-            case 3: return context.shell.open(context.forms.frm_ChoseDir);
-            default: return say_not_yet(context.os);
+            case 0:
+                return load_settings_from_file(context);
+            case 3:
+                return context.shell.open(context.forms.frm_ChoseDir);
+            default:
+                return say_not_yet(context.os);
         }
     });
     program.on(form, "mnuDefault", EventKind::click, [&context](const Event&) { say_not_yet(context.os); });

@@ -10,14 +10,14 @@ namespace kolvar {
 namespace {
 
 constexpr int margin = 60;
-constexpr int plot_top = 760;           // below the two lines about file and intervals
-constexpr int between_plots = 640;      // room for the numbers of the limits and the head of the lower plot
-constexpr int scale_labels = 900;       // left of the plots
-constexpr int right_of_plots = 1935;    // bars and the strip at the right
+constexpr int plot_top = 760;         // below the two lines about file and intervals
+constexpr int between_plots = 640;    // room for the numbers of the limits and the head of the lower plot
+constexpr int scale_labels = 900;     // left of the plots
+constexpr int right_of_plots = 1935;  // bars and the strip at the right
 constexpr int bar_width = 255;
 constexpr int button_height = 405;
 constexpr int label_height = 240;
-constexpr int panel_height = 1200;      // of the signal ratios
+constexpr int panel_height = 1200;  // of the signal ratios
 constexpr int panel_height_edit = 2680;
 constexpr int below_plot = 240;
 
@@ -47,8 +47,7 @@ void size_plots(Context& context) {
     if (!form.pict2.sized_by_hand) {
         const int panel = ratio_panel_in_edit_mode(form) ? panel_height_edit : panel_height;
         form.pict2.width = form.pict1.width;
-        form.pict2.height =
-            form.pictRatios.visible ? std::max(plot_height - panel - below_plot, 300) : plot_height;
+        form.pict2.height = form.pictRatios.visible ? std::max(plot_height - panel - below_plot, 300) : plot_height;
     }
     form.pict2.place(left, plot_top + plot_height + between_plots);
 }

@@ -20,13 +20,15 @@ bool intervals_complete(Context& context) {
         return false;
     }
     if (rs.SelUpp.val() - rs.SelLow.val() < 1) {
-        context.os.warn("The selected time interval is too short. Select longer interval or confirm the former "
-                        "selection by left and right mouse clicks, please.");
+        context.os.warn(
+            "The selected time interval is too short. Select longer interval or confirm the former "
+            "selection by left and right mouse clicks, please.");
         return false;
     }
     if (rs.BlankFromData == 1 && rs.ModeCreateBLK != 1 && rs.BlkUpp.val() - rs.BlkLow.val() < 1) {
-        context.os.warn("You have to mark an interval for the blank. Press SHIFT + left and right mouse buttons for "
-                        "the lower and upper limits of the blank range.");
+        context.os.warn(
+            "You have to mark an interval for the blank. Press SHIFT + left and right mouse buttons for "
+            "the lower and upper limits of the blank range.");
         return false;
     }
     return true;

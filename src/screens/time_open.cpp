@@ -61,8 +61,7 @@ void reset_scale_controls(Frm2Time& form) {
     form.VScroll1.set_value_quietly(1);
     form.VScroll3.set_value_quietly(1);
     for (Control* hidden : std::initializer_list<Control*>{&form.lblXNew, &form.txtYMaxInp, &form.lblXNew2,
-                                                           &form.txtYMaxInp2, &form.lblHgCorrNegative,
-                                                           &form.lblRatios})
+                                                           &form.txtYMaxInp2, &form.lblHgCorrNegative, &form.lblRatios})
         hidden->visible = false;
     form.VScroll1.visible = true;
 }

@@ -118,7 +118,8 @@ void connect_ratio_panel(Program& program) {
     click("cmdRatios", cmdRatios);
     click("cmdAcceptRatios", cmdAcceptRatios);
     click("cmdClose", cmdClose);
-    program.on(form, "lblRatio", EventKind::click, [&context](const Event& event) { mark_label(context, event.index); });
+    program.on(form, "lblRatio", EventKind::click,
+               [&context](const Event& event) { mark_label(context, event.index); });
     program.on(form, "chkIs", EventKind::drag, [&context](const Event& event) {
         Frm2Time& window = context.forms.frm2_Time;
         Control* const target = window.find("lblRatio", event.target_index);

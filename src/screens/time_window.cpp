@@ -150,12 +150,10 @@ void connect_plots(Program& program) {
     form.optLo.changed = [&context] { choose_scale(context, false); };
     program.on(form, "txtYMaxInp", EventKind::enter, [&context](const Event&) { enter_upper_limit(context); });
     program.on(form, "txtYMaxInp2", EventKind::enter, [&context](const Event&) { enter_lower_limit(context); });
-    program.on(form, "lblMaxCps", EventKind::click, [&form](const Event&) {
-        open_scale_entry(form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp);
-    });
-    program.on(form, "lblMaxIIS", EventKind::click, [&form](const Event&) {
-        open_scale_entry(form, form.lblMaxIIS, form.lblXNew2, form.txtYMaxInp2);
-    });
+    program.on(form, "lblMaxCps", EventKind::click,
+               [&form](const Event&) { open_scale_entry(form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp); });
+    program.on(form, "lblMaxIIS", EventKind::click,
+               [&form](const Event&) { open_scale_entry(form, form.lblMaxIIS, form.lblXNew2, form.txtYMaxInp2); });
 }
 
 }  // namespace
@@ -168,8 +166,8 @@ void reset_zoom(Frm2Time& form) {
 void connect_time_window(Program& program) {
     Context& context = program.context();
     Frm2Time& form = context.forms.frm2_Time;
-    program.shell().set_hooks(form, {[&context] { open_time_window(context); },
-                                     [&context] { activate_time_window(context); }});
+    program.shell().set_hooks(
+        form, {[&context] { open_time_window(context); }, [&context] { activate_time_window(context); }});
     connect_plots(program);
     connect_ratio_panel(program);
 

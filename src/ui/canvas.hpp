@@ -13,7 +13,7 @@ struct DrawCommand {
     enum class Kind : std::uint8_t { clear, fill_rect, line, circle, line_width, show_label, hide_label };
     Kind kind = Kind::clear;
     Colour colour;
-    int number = 0;  // line width, or the index of the label text in Canvas::labels()
+    int number = 0;                         // line width, or the index of the label text in Canvas::labels()
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // circle: centre and, in x2, the radius; label: left, top
 };
 

@@ -170,7 +170,8 @@ public:
     template <class... Arguments>
     ControlArray(Form& window, const std::string& named, int first, int last, Arguments&&... arguments)
         : first_(first) {
-        for (int element = first; element <= last; ++element) elements_.emplace_back(window, named, arguments..., element);
+        for (int element = first; element <= last; ++element)
+            elements_.emplace_back(window, named, arguments..., element);
     }
     T& operator()(int element) { return elements_.at(static_cast<std::size_t>(element - first_)); }
     const T& operator()(int element) const { return elements_.at(static_cast<std::size_t>(element - first_)); }

@@ -17,10 +17,10 @@ struct Form {
 
     const std::string name;
     std::string title;
-    const bool step;      // a numbered step of the workflow: its close box ends the program
-    bool shown = false;   // kept by Shell
-    bool loaded = false;  // its opening has run and it was not closed since; kept by Shell
-    int width = 0, height = 0;     // twips, kept by the window; 0 until it was first shown
+    const bool step;                  // a numbered step of the workflow: its close box ends the program
+    bool shown = false;               // kept by Shell
+    bool loaded = false;              // its opening has run and it was not closed since; kept by Shell
+    int width = 0, height = 0;        // twips, kept by the window; 0 until it was first shown
     Control* focus_wanted = nullptr;  // a handler moves the focus; the binder does it and clears this
     std::vector<Control*> controls;   // in tab order
 

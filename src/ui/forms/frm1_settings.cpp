@@ -2,8 +2,7 @@
 
 namespace kolvar {
 
-Frm1Settings::Frm1Settings()
-    : Form("frm1_Settings", "KOLVAR  -  Step 1: File selection, internal standard", true) {
+Frm1Settings::Frm1Settings() : Form("frm1_Settings", "KOLVAR  -  Step 1: File selection, internal standard", true) {
     put_into(mnuFileTitle, {&mnuFile0, &mnuFile1, &mnuFile2, &mnuFile3});
     put_into(mnuSet, {&mnuSettings0, &mnuSettings1, &mnuSettings2, &mnuSettings3});
     put_into(mnuDef, {&mnuDefault0, &mnuDefault1, &mnuDefault2});
@@ -26,11 +25,10 @@ Frm1Settings::Frm1Settings()
     pict_IS.visible = pict_UT.visible = pict_FLEX.visible = false;
     // The choice of the internal standards comes after the files were accepted.
     cmdNext.enabled = cmdBack.enabled = false;
-    for (Control* control : {static_cast<Control*>(&comboIso), static_cast<Control*>(&comboIso2),
-                             static_cast<Control*>(&comboIso3), static_cast<Control*>(&txtISppm),
-                             static_cast<Control*>(&txtISppm2), static_cast<Control*>(&txtISppm3),
-                             static_cast<Control*>(&txtISerr), static_cast<Control*>(&txtISerr2),
-                             static_cast<Control*>(&txtISerr3)})
+    for (Control* control :
+         {static_cast<Control*>(&comboIso), static_cast<Control*>(&comboIso2), static_cast<Control*>(&comboIso3),
+          static_cast<Control*>(&txtISppm), static_cast<Control*>(&txtISppm2), static_cast<Control*>(&txtISppm3),
+          static_cast<Control*>(&txtISerr), static_cast<Control*>(&txtISerr2), static_cast<Control*>(&txtISerr3)})
         control->enabled = false;
 }
 

@@ -19,10 +19,12 @@ Frm2Time::Frm2Time() : Form("frm2_Time", "KOLVAR  -  Step 2: Selection of time s
     optLo.value = 1;
     for (CheckBox& box : chkIs) box.visible = false;
     for (Control* hidden : std::initializer_list<Control*>{
-             &cmdReject, &cmdCopy, &cmdCopyHead, &cmdApp, &cmdNewFile, &cmdSett, &cmdCopySel, &lblHgCorrNegative,
-             &pictRatios, &lblExplanation, &lblOver50Iso, &frameIso2, &pictFormer, &lblFormer1, &lblFormer2,
-             &lblFormerBL1, &lblFormerBL2, &lblXNew, &lblXNew2, &txtYMaxInp, &txtYMaxInp2, &lbl10, &lbl100, &lbl1000,
-             &lbl10k, &lbl100k, &lbl1m, &lbl10m, &lblRatios, &lblBLKshow, &lblBLKtolig})
+             &cmdReject,  &cmdCopy,           &cmdCopyHead, &cmdApp,         &cmdNewFile,   &cmdSett,
+             &cmdCopySel, &lblHgCorrNegative, &pictRatios,  &lblExplanation, &lblOver50Iso, &frameIso2,
+             &pictFormer, &lblFormer1,        &lblFormer2,  &lblFormerBL1,   &lblFormerBL2, &lblXNew,
+             &lblXNew2,   &txtYMaxInp,        &txtYMaxInp2, &lbl10,          &lbl100,       &lbl1000,
+             &lbl10k,     &lbl100k,           &lbl1m,       &lbl10m,         &lblRatios,    &lblBLKshow,
+             &lblBLKtolig})
         hidden->visible = false;
     cmdReject.enabled = cmdShowConc.enabled = cmdAppQuick.enabled = cmdCopyRatios.enabled = false;
 }

@@ -22,8 +22,7 @@ struct FrmDwell : Form {
 struct FrmMissingIso : Form {
     FrmMissingIso() : Form("frm_MissingIso", "KOLVAR  Warning Message") {}
 
-    Label lblHead{*this, "lblHead",
-                  "Isotopes of the Data File are not present in the standard and/or blank files!"};
+    Label lblHead{*this, "lblHead", "Isotopes of the Data File are not present in the standard and/or blank files!"};
     Label lblListSTC{*this, "lblListSTC", "The following isotopes are missing in the Standard Composition File:"};
     Label lblSTC{*this, "lblSTC"};
     Label lblListSTM{*this, "lblListSTM", "The following isotopes are missing in the Standard Measurement File:"};

@@ -33,8 +33,8 @@ TEST_F(Road, ExampleGivesTheConcentrationsThatItsDocumentStates) {
     click(forms().frm3_Matrix, "cmdNext");
     ASSERT_TRUE(forms().frm4_Output.shown);
     // Computed apart from this program, by the generator of the example.
-    const std::pair<const char*, double> expected[] = {{"Li7", 6.21539638}, {"Ca43", 77639.4921},
-                                                       {"Sr88", 320.030738}, {"La139", 14.883426},
+    const std::pair<const char*, double> expected[] = {{"Li7", 6.21539638},   {"Ca43", 77639.4921},
+                                                       {"Sr88", 320.030738},  {"La139", 14.883426},
                                                        {"Pb208", 2.58244716}, {"U238", 0.467763644}};
     for (const auto& [name, ppm] : expected)
         for (int i = 1; i <= rs().nIso; ++i)
