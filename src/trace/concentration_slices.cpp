@@ -97,13 +97,15 @@ void spread(RunState& rs, const Interval& selection) {
         }
         const auto slices = cells_of(std::as_const(rs.ConcT), i, selection);
         const auto rejected = cells_of(std::as_const(rs.Rej), i, selection);
-        const double mean = rs.ConcMean(i).number();
+        // A mean that was never calculated belongs to slices that are 0, of which none is compared with it.
+        const double mean = rs.ConcMean(i).val();
         // A slice without positive concentration leaves the sum and stays in the divisor.
         add_up(rs.BlkSpikes, slices.size(), [=](std::size_t t) {
             const double away = slices[t].held - mean;
             return slices[t].above(0.0) && rejected[t] != 1 ? away * away : 0.0;
         });
         rs.ConcSD(i) = root(quotient(rs.BlkSpikes, rs.nData(i) - 1));
+        if (rs.ConcMean(i).is_dashes()) continue;
         rs.ConcSE(i) = quotient(rs.ConcSD(i).number(), root(rs.nData(i)));
         rs.RelErr(i) = round_half_up(quotient(finite(100 * rs.ConcSD(i).number()), rs.ConcMean(i).number()));
     }

@@ -240,6 +240,20 @@ TEST_F(Concentrations, AnOmittedColumnShowsDashesAndIsNotCounted) {
     EXPECT_TRUE(os.boxes.empty());
 }
 
+// Y89 was omitted in the run before and lost its composition since: its mean still reads "---", its slices are 0.
+TEST_F(Concentrations, AMeanThatWasNeverCalculatedHasADeviationButNoRelativeError) {
+    rs.ConcMean(2) = rs.ConcSE(2) = rs.RelErr(2) = Cell(Mark::dashes);
+    rs.StdConc(2) = Mark::empty;
+    rs.Dwell(2) = 0.0;
+    compute();
+    EXPECT_EQ(rs.ConcT(2, 3), Cell(0.0));
+    EXPECT_EQ(rs.ConcSD(2), Cell(0.0));  // no slice above 0: 0 / 3
+    EXPECT_EQ(rs.ConcSE(2), Cell(Mark::dashes));
+    EXPECT_EQ(rs.RelErr(2), Cell(Mark::dashes));
+    EXPECT_EQ(rs.LoD(2), Value(0.0));  // 0 x (3 x 2 + 4) / (40 - 4)
+    EXPECT_TRUE(os.boxes.empty());
+}
+
 TEST_F(Concentrations, AColumnWithoutAssignedStandardIsTreatedAsOmitted) {
     column("La139", {0, 0, 1, 2, 3, 4});
     reference(3, 5, 1, 6, 1, 1);
