@@ -6,28 +6,14 @@
 
 #include "plain/matrix_plain.hpp"
 #include "plain/simulated_run.hpp"
+#include "support/silent_platform.hpp"
 #include "trace/output.hpp"
 #include "trace/statistics.hpp"
 
 namespace {
 
 using namespace kolvar;
-
-// No box is expected.
-class SilentPlatform : public Platform {
-public:
-    void warn(const std::string&, const std::string&) override {}
-    bool ask(const std::string&, const std::string&) override { return false; }
-    FaultAnswer fault(const std::string&) override { return FaultAnswer::end; }
-    std::string open_file(const FileDialog&) override { return {}; }
-    std::optional<std::string> save_file(const FileDialog&) override { return {}; }
-    std::string choose_folder(const std::string&) override { return {}; }
-    std::string clipboard() override { return {}; }
-    void set_clipboard(const std::string&) override {}
-    bool open_document(const std::string&) override { return false; }
-    DateTime now() override { return {}; }
-    std::string decimal_sign() override { return "."; }
-};
+using test::SilentPlatform;
 
 struct Matrix {
     RunState rs;

@@ -10,30 +10,17 @@
 #include "plain/simulated_run.hpp"
 #include "qt/canvas_painter.hpp"
 #include "screens/plots.hpp"
+#include "support/silent_platform.hpp"
 #include "ui/context.hpp"
 
 namespace {
 
 using namespace kolvar;
+using test::SilentPlatform;
 
 constexpr int curves = 50;
 constexpr int slices = 6000;
 constexpr int blank = 1500;
-
-class SilentPlatform : public Platform {
-public:
-    void warn(const std::string&, const std::string&) override {}
-    bool ask(const std::string&, const std::string&) override { return false; }
-    FaultAnswer fault(const std::string&) override { return FaultAnswer::end; }
-    std::string open_file(const FileDialog&) override { return {}; }
-    std::optional<std::string> save_file(const FileDialog&) override { return {}; }
-    std::string choose_folder(const std::string&) override { return {}; }
-    std::string clipboard() override { return {}; }
-    void set_clipboard(const std::string&) override {}
-    bool open_document(const std::string&) override { return false; }
-    DateTime now() override { return {}; }
-    std::string decimal_sign() override { return "."; }
-};
 
 struct Plots {
     Plots() {

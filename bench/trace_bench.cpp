@@ -12,6 +12,7 @@
 #include "core/platform.hpp"
 #include "plain/simulated_run.hpp"
 #include "plain/trace_plain.hpp"
+#include "support/silent_platform.hpp"
 #include "trace/concentrations.hpp"
 #include "trace/selected_median.hpp"
 #include "trace/statistics.hpp"
@@ -19,27 +20,11 @@
 namespace {
 
 using namespace kolvar;
+using test::SilentPlatform;
 
 constexpr int columns = 100;
 constexpr int slices = 6000;
 constexpr int blank = 1500;
-
-// No box is expected; one that comes is counted.
-class SilentPlatform : public Platform {
-public:
-    int boxes = 0;
-    void warn(const std::string&, const std::string&) override { ++boxes; }
-    bool ask(const std::string&, const std::string&) override { return false; }
-    FaultAnswer fault(const std::string&) override { return FaultAnswer::end; }
-    std::string open_file(const FileDialog&) override { return {}; }
-    std::optional<std::string> save_file(const FileDialog&) override { return {}; }
-    std::string choose_folder(const std::string&) override { return {}; }
-    std::string clipboard() override { return {}; }
-    void set_clipboard(const std::string&) override {}
-    bool open_document(const std::string&) override { return false; }
-    DateTime now() override { return {}; }
-    std::string decimal_sign() override { return "."; }
-};
 
 RunState& measurement() {
     static const auto rs = [] {

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <span>
 #include <string>
 
@@ -17,28 +16,12 @@
 #include "core/platform.hpp"
 #include "core/records.hpp"
 #include "core/run_state.hpp"
+#include "support/silent_platform.hpp"
 
 namespace kolvar::fuzz {
 
 using Bytes = std::span<const std::uint8_t>;
-
-// Boxes are counted, questions answered with Yes, dialogs cancelled.
-class SilentPlatform : public Platform {
-public:
-    int warnings = 0;
-
-    void warn(const std::string&, const std::string&) override { ++warnings; }
-    bool ask(const std::string&, const std::string&) override { return true; }
-    FaultAnswer fault(const std::string&) override { return FaultAnswer::go_on; }
-    std::string open_file(const FileDialog&) override { return {}; }
-    std::optional<std::string> save_file(const FileDialog&) override { return std::nullopt; }
-    std::string choose_folder(const std::string&) override { return {}; }
-    std::string clipboard() override { return {}; }
-    void set_clipboard(const std::string&) override {}
-    bool open_document(const std::string&) override { return false; }
-    DateTime now() override { return {}; }
-    std::string decimal_sign() override { return "."; }
-};
+using test::SilentPlatform;
 
 // The readers take files: one for each name, that goes with the object.
 class ScratchFile {

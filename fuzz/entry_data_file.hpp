@@ -12,7 +12,7 @@ inline void data_file(Bytes bytes) {
     // One program for all runs: what a file leaves behind is what the next one finds, as with a user.
     static RunState rs;
     static Forms forms;
-    static SilentPlatform os;
+    static SilentPlatform os(true);
     static Shell shell;
     static ScratchFile file("table");
     Context context{rs, forms, os, shell};
@@ -24,7 +24,7 @@ inline void data_file(Bytes bytes) {
     rs.setCPS_IS = bytes[0] / 4U % 2U == 0 ? 1 : 0;
     rs.setIS_Dwell = 20;
     rs.DataFilePath = file.write(bytes.subspan(head));
-    os.warnings = 0;
+    os.boxes = 0;
     ClearData(rs);
     switch (bytes[0] % 4U) {
         case 0:
@@ -37,7 +37,7 @@ inline void data_file(Bytes bytes) {
             LoadXL(context, rs.DataFilePath);
             break;
     }
-    require(os.warnings <= 2);
+    require(os.boxes <= 2);
     require(rs.nIso >= 0 && rs.nIso <= MaxIso);
     require(rs.nSlices >= 0 && rs.nSlices <= MaxSlices);
     for (int i = 1; i <= rs.nIso; ++i) {

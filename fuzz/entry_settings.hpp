@@ -10,18 +10,18 @@ namespace kolvar::fuzz {
 // A settings file that was read is written so that it reads back and is written the same.
 inline void settings(Bytes bytes) {
     static RunState rs;
-    static SilentPlatform os;
+    static SilentPlatform os(true);
     static ScratchFile file("settings");
     static ScratchFile written("settings-written");
-    os.warnings = 0;
+    os.boxes = 0;
     ReadSettings(rs, os, file.write(bytes));
-    if (os.warnings != 0) return;
+    if (os.boxes != 0) return;
     rs.SetFilePath = written.write({});
     WriteSettings(rs, os);
     const std::string first = read_bytes(rs.SetFilePath);
     ReadSettings(rs, os, rs.SetFilePath);
     WriteSettings(rs, os);
-    require(os.warnings == 0);
+    require(os.boxes == 0);
     require(read_bytes(rs.SetFilePath) == first);
 }
 

@@ -7,10 +7,11 @@ seconds=${1:-20}
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$root/build-fuzz
 
+mkdir -p "$build"
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DKOLVAR_FUZZ=ON -DKOLVAR_DESKTOP=OFF -DKOLVAR_TESTS=OFF \
-    -DKOLVAR_SANITIZE=fuzzer-no-link,address,undefined >"$build.log"
-ninja -C "$build" fuzzers >>"$build.log" || { cat "$build.log"; exit 1; }
+    -DKOLVAR_SANITIZE=fuzzer-no-link,address,undefined >"$build/build.log"
+ninja -C "$build" fuzzers >>"$build/build.log" || { cat "$build.log"; exit 1; }
 
 status=0
 for name in data_file records settings blank_table; do
