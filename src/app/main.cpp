@@ -26,6 +26,9 @@ int main(int argc, char** argv) {
         &desktop, &kolvar::Desktop::ended, &application, [](int status) { QApplication::exit(status); },
         Qt::QueuedConnection);
     // Boxes of the start-up need the event loop.
-    QTimer::singleShot(0, &application, [&] { program.start(KOLVAR_START_METHOD); });
+    QTimer first_turn;
+    first_turn.setSingleShot(true);
+    QObject::connect(&first_turn, &QTimer::timeout, &application, [&] { program.start(KOLVAR_START_METHOD); });
+    first_turn.start(0);
     return QApplication::exec();
 }

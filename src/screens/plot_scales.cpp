@@ -17,11 +17,7 @@ constexpr int lowest_power = -11;
 
 double power_of_ten(int exponent) { return powers[static_cast<std::size_t>(exponent - lowest_power)]; }
 
-int digits_of_integer_part(double number) {
-    int digits = 1;
-    for (double limit = 10; std::fabs(number) >= limit; limit *= 10) ++digits;
-    return digits;
-}
+int digits_of_integer_part(double number) { return static_cast<int>(decimal(std::floor(std::fabs(number))).size()); }
 
 // The caption of the button says what it will do: "OFF" stands there while the lines are shown.
 bool lines_shown(const Frm2Time& frm) { return frm.cmdHorizLines.text == "Horiz. lines OFF"; }

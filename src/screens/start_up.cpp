@@ -80,18 +80,18 @@ void start_internal_standard_path(Context& context) {
 }  // namespace
 
 std::string start_kit_folder(const RunState& rs, const std::string& named) {
-    const std::string folder = native_path(named);
+    std::string folder = native_path(named);
     if (!is_relative_path(folder) || folder_exists(folder)) return folder;
-    const std::string beside_program = join_path(rs.AppPath1, folder);
+    std::string beside_program = join_path(rs.AppPath1, folder);
     if (folder_exists(beside_program)) return beside_program;
     // A kit that was copied under another name, start path and all, is found where its start path lies.
     return file_exists(join_path(rs.AppPath1, default_settings)) ? rs.AppPath1 : folder;
 }
 
 std::string reference_path(const RunState& rs, const std::string& named) {
-    const std::string path = native_path(named);
+    std::string path = native_path(named);
     if (rs.WorkPath.empty()) return path;
-    const std::string in_kit = join_path(rs.WorkPath, path);
+    std::string in_kit = join_path(rs.WorkPath, path);
     if (is_relative_path(path) && !file_exists(path) && file_exists(in_kit)) return in_kit;
     return path;
 }

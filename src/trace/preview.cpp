@@ -92,8 +92,11 @@ void load_averages(Context& context) {
         const std::string& name = rs.IsoName(i);
         const std::string mean = Format(rs.ConcMean(i), "0.0");
         const std::string spread = Format(rs.ConcSD(i), "0.0");
-        label.text = " " + name + padding(12 - characters_of(mean) - characters_of(name)) + mean + "  \xC2\xB1  " +
-                     padding(4 - characters_of(spread)) + spread + " ppm";
+        label.text = " " + name;
+        label.text += padding(12 - characters_of(mean) - characters_of(name));
+        label.text += mean + "  \xC2\xB1  ";
+        label.text += padding(4 - characters_of(spread));
+        label.text += spread + " ppm";
         label.visible = true;
         // The preview uses them up; the next calculation writes them anew.
         rs.ConcMean(i) = Mark::empty;
