@@ -120,12 +120,17 @@ void follow_dwell(Context& context) {
     form.txtDwell.enabled = !from_file;
 }
 
-void Selection_Ready(Context& context) { enable_choices(context.forms.frm1_Settings, false); }
+void Selection_Ready(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    enable_choices(form, false);
+    form.set_focus(form.comboIso);  // what had the focus can't be used any more
+}
 
 void back_to_file_choice(Context& context) {
     RunState& rs = context.rs;
     Frm1Settings& form = context.forms.frm1_Settings;
     enable_choices(form, true);
+    form.set_focus(form.cmdOK);
     if (form.optCreatSTM.on() || form.optCreatBLK.on())
         enable({&form.cmdLoadSTC, &form.cmdLoadSTM, &form.lblSTC, &form.lblSTM}, false);
     if (rs.BlankFromData == 1) enable({&form.cmdLoadBLK, &form.lblBLK}, false);
