@@ -74,6 +74,8 @@ bool mark_signal(Context& context) {
     if (!mark_limit(context, rs.SelLow, rs.SelLowX, rs.SelUpp, rs.SelUppX)) return false;
     // A click at the left edge means the first slice; of the four limits this one alone is put right.
     if (rs.ClickButton == left_button && rs.SelLow.val() == 0) rs.SelLow = 1;
+    // The number that was clicked, a 0 at the left edge too.
+    if (rs.ClickButton == right_button) frm.lblUpp.text = rs.SelUpp.text();
     place_limit_labels(context);
     count_selection(rs);
     if (rs.SelN.val() > 0) {
@@ -216,12 +218,15 @@ void positions_from_slices(Context& context) {
 void place_limit_labels(Context& context) {
     const RunState& rs = context.rs;
     Frm2Time& frm = context.forms.frm2_Time;
-    const auto shown = [](const Limit& limit) { return limit.val() > 0 ? limit.text() : std::string(); };
+    // A limit at 0 keeps what its label reads: the 0 that was clicked, or nothing after the window has come up.
+    const auto shown = [](const Limit& limit, const Label& label) {
+        return limit.is_set() && limit.val() == 0 ? label.text : limit.text();
+    };
     const double left = frm.pict1.left;
     const double top = frm.pict1.top + frm.pict1.height + 100;
     // The number of the lower limit ends at its line, that of the upper one begins at its line.
-    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow), left + rs.SelLowX - frm.lblLow.width, top);
-    plot::show_label(frm.pict1.canvas, frm.lblUpp, shown(rs.SelUpp), left + rs.SelUppX, top);
+    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow, frm.lblLow), left + rs.SelLowX - frm.lblLow.width, top);
+    plot::show_label(frm.pict1.canvas, frm.lblUpp, shown(rs.SelUpp, frm.lblUpp), left + rs.SelUppX, top);
 }
 
 }  // namespace kolvar

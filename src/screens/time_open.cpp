@@ -49,6 +49,8 @@ void show_limits(Context& context) {
     form.lblBLKshow.visible = form.lblBLKtolig.visible = blank_of_data;
     form.lblBLKtolig.text.clear();
     form.lblMeasSel.text.clear();
+    form.lblLow.text.clear();
+    form.lblUpp.text.clear();
     form.lblMeasTot.text = std::to_string(rs.nSlices);
     if (all_limits_set(rs)) {
         form.lblBLKtolig.text = rs.BlkLow.text() + " - " + rs.BlkUpp.text();
@@ -121,7 +123,10 @@ void open_time_window(Context& context) {
                                              &form.cmdShowConc, &form.cmdAppQuick, &form.lblMaxIIS2})
             of_concentrations->visible = false;
     form.cmdCopyRatios.visible = data;
+    // Another number of analytes takes another width from the plots.
+    const int former_width = form.pict1.width;
     lay_out_time_window(context);
+    if (form.pict1.width != former_width) positions_from_slices(context);
     show_limits(context);
     form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = rs.SelN.val() != 0;
     (rs.LinearView ? form.optLi : form.optLo).set_value_quietly(1);

@@ -141,7 +141,10 @@ void connect_plots(Program& program) {
         program.on(form, picture, EventKind::resize, [&context](const Event&) {
             lay_out_time_window(context);
             positions_from_slices(context);
-            draw_all(context);
+            if (context.rs.setAllCurve.val() == 0)
+                draw_pict1(context);
+            else
+                draw_all(context);
         });
     }
     form.VScroll1.changed = [&context] { scroll_upper(context); };
