@@ -225,7 +225,8 @@ void place_limit_labels(Context& context) {
     const double left = frm.pict1.left;
     const double top = frm.pict1.top + frm.pict1.height + 100;
     // The number of the lower limit ends at its line, that of the upper one begins at its line.
-    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow, frm.lblLow), left + rs.SelLowX - frm.lblLow.width, top);
+    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow, frm.lblLow), left + rs.SelLowX - frm.lblLow.width,
+                     top);
     plot::show_label(frm.pict1.canvas, frm.lblUpp, shown(rs.SelUpp, frm.lblUpp), left + rs.SelUppX, top);
 }
 
