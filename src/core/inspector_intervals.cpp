@@ -52,6 +52,7 @@ std::span<const FieldEntry> interval_fields() {
         KOLVAR_SCALAR(PlotState),
         KOLVAR_SCALAR(ShowFirst),
         KOLVAR_SCALAR(ReturnTo),
+        KOLVAR_SCALAR(SaveRequest),
         KOLVAR_SCALAR(CurvesShown),
         KOLVAR_LIST(CurveOn, MaxCurveFlags),
         KOLVAR_SCALAR(Curve1),

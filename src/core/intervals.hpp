@@ -33,7 +33,8 @@ struct Intervals {
     bool ScaleFresh = false, ScaleFresh2 = false, AutoScale1 = false, AutoScale2 = false;
     int PlotPool = 1, RatioScale = 0, PlotOn = 0, PlotState = 0;
     std::string ShowFirst;
-    std::string ReturnTo;
+    std::string ReturnTo;     // window that follows the settings window: "back to start", "back to time" or ""
+    std::string SaveRequest;  // holds a marker while the settings window saves
     int CurvesShown = 0;
     Table1<bool> CurveOn{MaxCurveFlags};
     int Curve1 = 0, Curve2 = 0, Curve3 = 0, Curve4 = 0, Curve5 = 0, Curve6 = 0;  // columns of the single curves

@@ -38,10 +38,11 @@ std::optional<QString> file_dialog(const FileDialog& wanted, bool saving) {
         dialog.selectNameFilter(filters.value(wanted.index - 1, filters.first()));
     }
     const QFileInfo proposed(QDir::fromNativeSeparators(shown(wanted.name)));
-    if (!wanted.folder.empty())
-        dialog.setDirectory(QDir::fromNativeSeparators(shown(wanted.folder)));
-    else if (proposed.isAbsolute())
+    // A proposed name that has a folder leads there.
+    if (proposed.isAbsolute())
         dialog.setDirectory(proposed.absolutePath());
+    else if (!wanted.folder.empty())
+        dialog.setDirectory(QDir::fromNativeSeparators(shown(wanted.folder)));
     if (!wanted.name.empty()) dialog.selectFile(proposed.fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return QDir::toNativeSeparators(dialog.selectedFiles().first());

@@ -3,6 +3,7 @@
 #include "screens/settings_panels.hpp"
 #include "screens/settings_window.hpp"
 #include "trace/output.hpp"
+#include "trace/quick_results.hpp"
 
 namespace kolvar {
 
@@ -99,7 +100,7 @@ void connect_output_windows(Program& program) {
     click(form, "cmdSave", cmdSave);
     click(form, "cmdCopyAll", cmdCopyAll);
     click(form, "cmdPreview", cmdPreview);
-    click(form, "cmdAppQuick", [](Context& c) { say_not_yet(c.os); });
+    click(form, "cmdAppQuick", [](Context& c) { AppendQuickResults(c.rs, c.os, QuickCall::from_results); });
     click(form, "cmdBackRej", cmdBackRej);
     click(form, "cmdNewSel", cmdNewSel);
     click(form, "cmdNewIS", cmdNewIS);

@@ -8,6 +8,11 @@ void connect_screens(Program& program) {
     connect_time_window(program);
     connect_matrix_window(program);
     connect_output_windows(program);
+    connect_set_is_window(program);
+    connect_period_window(program);
+    connect_import_filter_window(program);
+    connect_paste(program);
+    connect_help(program);
 }
 
 }  // namespace kolvar

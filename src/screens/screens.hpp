@@ -13,5 +13,10 @@ void connect_report_windows(Program& program);
 void connect_time_window(Program& program);
 void connect_matrix_window(Program& program);
 void connect_output_windows(Program& program);
+void connect_set_is_window(Program& program);
+void connect_period_window(Program& program);
+void connect_import_filter_window(Program& program);
+void connect_paste(Program& program);
+void connect_help(Program& program);
 
 }  // namespace kolvar

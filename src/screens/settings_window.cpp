@@ -6,6 +6,7 @@
 #include "core/numbers.hpp"
 #include "import/data_file.hpp"
 #include "screens/screens.hpp"
+#include "screens/set_is_window.hpp"
 #include "screens/settings_panels.hpp"
 #include "screens/start_paths.hpp"
 #include "settings/reference_files.hpp"
@@ -207,10 +208,11 @@ void connect_settings_window(Program& program) {
     click("cmdDWEinfo", [](Context& c) { show_dwe_info(c.rs, c.os); });
     for (const char* leaving : {"cmdClose", "cmdExitUP", "cmdExitFLEX"})
         click(leaving, [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later : {"cmdPaste", "cmdModiSet", "cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster",
-                              "Command6", "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
+    for (const char* later : {"cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster", "Command6",
+                              "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
+    click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });
     click("cmdSeq", [](Context& c) { c.shell.open(c.forms.frm_Batch_IS); });
 
     program.on(form, "mnuFile", EventKind::click, [&context](const Event& event) {
@@ -229,13 +231,19 @@ void connect_settings_window(Program& program) {
         switch (event.index) {
             case 0:
                 return load_settings_from_file(context);
-            case 3:
-                return context.shell.open(context.forms.frm_ChoseDir);
-            default:
+            case 1:
+                if (context.rs.Method == 0) return open_set_is(context, "back to start");
                 return say_not_yet(context.os);
+            case 2:
+                return context.shell.open(context.forms.frm_InputForm);
+            default:
+                return context.shell.open(context.forms.frm_ChoseDir);
         }
     });
-    program.on(form, "mnuDefault", EventKind::click, [&context](const Event&) { say_not_yet(context.os); });
+    program.on(form, "mnuDefault", EventKind::click, [&context](const Event& event) {
+        if (event.index == 2) return context.shell.open(context.forms.frm_InputForm);
+        say_not_yet(context.os);
+    });
 }
 
 }  // namespace kolvar

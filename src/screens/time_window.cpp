@@ -4,7 +4,8 @@
 #include "screens/plots.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
-#include "screens/settings_window.hpp"
+#include "screens/set_is_window.hpp"
+#include "trace/quick_results.hpp"
 
 namespace kolvar {
 
@@ -180,8 +181,11 @@ void connect_time_window(Program& program) {
     click("cmdHorizLines", cmdHorizLines);
     click("cmdSel", cmdSel);
     click("cmdShowConc", ShowAverages);
-    click("cmdAppQuick", [](Context& c) { say_not_yet(c.os); });
-    click("cmsSettings", [](Context& c) { say_not_yet(c.os); });
+    click("cmdAppQuick", [](Context& c) { AppendQuickResults(c.rs, c.os, QuickCall::from_time_selection); });
+    click("cmsSettings", [](Context& c) {
+        c.shell.close(c.forms.frm2_Time);
+        open_set_is(c, "back to time");
+    });
     click("cmdNext", LeaveTimeSelection);
     click("cmdBack", cmdBack);
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });

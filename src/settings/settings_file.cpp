@@ -109,10 +109,12 @@ void WriteSettings(RunState& rs, Platform& os) {
         [&](const Fault&) { os.warn("Error occurred while trying to save file, please retry."); });
 }
 
+FileDialog settings_save_dialog(const RunState& rs) { return {settings_filter, 1, rs.SettingsPath, rs.AppPath1}; }
+
 void save_settings_as(RunState& rs, Platform& os) {
     // A cancelled dialog hands back the proposed name and the write goes on: the question about overwriting is the
     // user's way out.
-    rs.SetFilePath = os.save_file({settings_filter, 1, rs.SettingsPath, ""}).value_or(rs.SettingsPath);
+    rs.SetFilePath = os.save_file(settings_save_dialog(rs)).value_or(rs.SettingsPath);
     WriteSettings(rs, os);
 }
 

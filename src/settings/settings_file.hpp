@@ -18,7 +18,10 @@ void warn_of_settings_file(Platform& os, const std::string& path);
 // Writes to SetFilePath; asks before it overwrites; reports its own faults.
 void WriteSettings(RunState& rs, Platform& os);
 
-// The save dialog for a settings file, then WriteSettings. A cancelled dialog writes to the proposed name.
+// How the save dialog for a settings file opens: at the current settings file.
+FileDialog settings_save_dialog(const RunState& rs);
+
+// That dialog, then WriteSettings. A cancelled dialog writes to the proposed name.
 void save_settings_as(RunState& rs, Platform& os);
 
 }  // namespace kolvar

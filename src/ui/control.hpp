@@ -57,6 +57,7 @@ struct Control {
     int group = 0;                                 // options of one window and group exclude each other
     bool editable = false;                         // a list whose field can be typed into
     bool locked = false;                           // an entry that shows and refuses typing
+    bool multiline = false;                        // an entry of several lines
     Control* parent = nullptr;                     // panel or frame that holds it
 
     // What happens when the value (check, option, scroll, list) or text (entry) changes, by the user or from code.

@@ -8,6 +8,11 @@
 #include "ui/forms/frm2_time.hpp"
 #include "ui/forms/frm3_matrix.hpp"
 #include "ui/forms/frm4_output.hpp"
+#include "ui/forms/frm_help1.hpp"
+#include "ui/forms/frm_input_form.hpp"
+#include "ui/forms/frm_paste.hpp"
+#include "ui/forms/frm_period.hpp"
+#include "ui/forms/frm_set_is.hpp"
 #include "ui/forms/reports.hpp"
 
 namespace kolvar {
@@ -24,10 +29,16 @@ struct Forms {
     FrmChoseDir frm_ChoseDir;
     FrmAverConc frm_AverConc;
     FrmBatchIS frm_Batch_IS;
+    FrmSetIS frm_SetIS;
+    FrmPeriod frm_Period;
+    FrmInputForm frm_InputForm;
+    FrmPaste frmPaste;
+    FrmHelp1 frmHelp1;
 
     [[nodiscard]] std::vector<Form*> all() {
-        return {&frm1_Settings,  &frm2_Time, &frm3_Matrix,  &frm4_Output,  &frm5_Preview, &frm_Dwell,
-                &frm_MissingIso, &frm_Omit,  &frm_ChoseDir, &frm_AverConc, &frm_Batch_IS};
+        return {&frm1_Settings,  &frm2_Time,     &frm3_Matrix,  &frm4_Output,  &frm5_Preview, &frm_Dwell,
+                &frm_MissingIso, &frm_Omit,      &frm_ChoseDir, &frm_AverConc, &frm_Batch_IS, &frm_SetIS,
+                &frm_Period,     &frm_InputForm, &frmPaste,     &frmHelp1};
     }
     // nullptr when there is no window of this name.
     [[nodiscard]] Form* find(const std::string& name) {

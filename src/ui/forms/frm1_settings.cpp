@@ -6,6 +6,7 @@ Frm1Settings::Frm1Settings() : Form("frm1_Settings", "KOLVAR  -  Step 1: File se
     put_into(mnuFileTitle, {&mnuFile0, &mnuFile1, &mnuFile2, &mnuFile3});
     put_into(mnuSet, {&mnuSettings0, &mnuSettings1, &mnuSettings2, &mnuSettings3});
     put_into(mnuDef, {&mnuDefault0, &mnuDefault1, &mnuDefault2});
+    put_into(hlp1Title, {&hlp1_1, &hlp1_2, &hlp1_3, &hlp1_4, &hlp1_5, &hlp1_6, &hlp1_7, &hlp1_9, &hlp1_10});
 
     put_into(pict_IS, {&frameMode, &frameFile, &Frame2, &Frame3, &Frame1, &frameDwell, &frameIntStd, &cmdOK,
                        &cmdModiSet, &cmdSeq, &cmdClose, &cmdBack, &cmdNext});

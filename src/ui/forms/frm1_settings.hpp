@@ -23,6 +23,18 @@ struct Frm1Settings : Form {
     MenuEntry mnuDefault0{*this, "mnuDefault", "Open default file", 0};
     MenuEntry mnuDefault1{*this, "mnuDefault", "Modify defaults", 1};
     MenuEntry mnuDefault2{*this, "mnuDefault", "Specify import filter for the data files", 2};
+    MenuTitle hlp1Title{*this, "hlp1Title", "&Help"};
+    MenuEntry hlp1_1{*this, "hlp1", "Most important points ...", 1};
+    MenuEntry hlp1_2{*this, "hlp1", "Flow chart", 2};
+    MenuEntry hlp1_3{*this, "hlp1", "Introduction (article, MAC)", 3};
+    MenuEntry hlp1_4{*this, "hlp1", "Format of the files", 4};
+    MenuEntry hlp1_5{*this, "hlp1", "Explanation to the example files", 5};
+    MenuEntry hlp1_6{*this, "hlp1", "Equations", 6};
+    MenuEntry hlp1_7{*this, "hlp1", "Exported results", 7};
+    MenuEntry hlp1_9{*this, "hlp1", "Visit Kolvar homepage for latest version and help", 9};
+    MenuEntry hlp1_10{*this, "hlp1", "About", 10};
+
+    Label lblVersion{*this, "lblVersion"};
 
     // The internal-standard panel.
     Panel pict_IS{*this, "pict_IS"};

@@ -9,6 +9,7 @@ namespace kolvar {
 Frm2Time::Frm2Time() : Form("frm2_Time", "KOLVAR  -  Step 2: Selection of time slices", true) {
     width = 16500;
     height = 10200;
+    put_into(hlp2Title, {&hlp2});
     for (CheckBox& box : chkIs) put_into(pictAllIso, {&box});
     put_into(pictAllIso, {&cmdSel, &lblOver50Iso, &frameIso2});
     for (Label& label : lblRatio) put_into(pictRatios, {&label});

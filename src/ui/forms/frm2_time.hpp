@@ -8,6 +8,9 @@ namespace kolvar {
 struct Frm2Time : Form {
     Frm2Time();
 
+    MenuTitle hlp2Title{*this, "hlp2Title", "&Help"};
+    MenuEntry hlp2{*this, "hlp2", "Marking of the intervals", -1};
+
     // The plots and what stands beside them.
     Picture pict1{*this, "pict1"};
     Picture pict2{*this, "pict2"};

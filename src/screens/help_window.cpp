@@ -1,0 +1,7 @@
+#include "screens/screens.hpp"
+
+namespace kolvar {
+
+void connect_help(Program&) {}
+
+}  // namespace kolvar
