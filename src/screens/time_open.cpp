@@ -37,7 +37,8 @@ void show_ratio_panel(Context& context) {
     form.lblExplanation.visible = false;
     form.pictRatios.visible = rs.setRatio_ppmIS.val() == 2 && rs.ModeData == 1;
     form.cmdRatios.visible = rs.ModeData == 1 && !form.pictRatios.visible;
-    find_ratio_columns(context);
+    find_ratio_columns(rs);
+    show_ratio_names(context);
     for (int pair = 1; pair <= MaxShow; ++pair)
         form.chkR(pair).set_value_quietly(rs.setRatioShow(pair).val() != 0 ? 1 : 0);
 }

@@ -15,14 +15,6 @@ void draw(Context& context) {
     draw_all(context);
 }
 
-int column_named(const RunState& rs, const std::string& name) {
-    int column = 0;
-    if (name.empty()) return column;
-    for (int i = 1; i <= rs.nIso; ++i)
-        if (rs.IsoName(i) == name) column = i;
-    return column;
-}
-
 int complete_pairs(const RunState& rs) {
     int pairs = 0;
     for (int j = 0; j < MaxRatioName; j += 2)
@@ -99,14 +91,22 @@ void show_pair(Context& context, int pair) {
 
 bool ratio_panel_in_edit_mode(const Frm2Time& form) { return form.cmdAcceptRatios.text == "Plot ratios"; }
 
-void find_ratio_columns(Context& context) {
-    RunState& rs = context.rs;
-    Frm2Time& form = context.forms.frm2_Time;
-    for (int j = 0; j < MaxRatioName; ++j) {
-        const std::string name = rs.ratioName(j).text();
-        rs.RatioCol(j) = column_named(rs, name);
-        form.lblRatio(j).text = rs.RatioCol(j) > 0 ? name : std::string();
-    }
+int column_named(const RunState& rs, const std::string& name) {
+    int column = 0;
+    if (name.empty()) return column;
+    for (int i = 1; i <= rs.nIso; ++i)
+        if (rs.IsoName(i) == name) column = i;
+    return column;
+}
+
+void find_ratio_columns(RunState& rs) {
+    for (int j = 0; j < MaxRatioName; ++j) rs.RatioCol(j) = column_named(rs, rs.ratioName(j).text());
+}
+
+void show_ratio_names(Context& context) {
+    const RunState& rs = context.rs;
+    for (int j = 0; j < MaxRatioName; ++j)
+        context.forms.frm2_Time.lblRatio(j).text = rs.RatioCol(j) > 0 ? rs.ratioName(j).text() : std::string();
 }
 
 void connect_ratio_panel(Program& program) {

@@ -17,7 +17,9 @@ void OnResize(Context& context);
 
 // The signal-ratio panel. Its edit mode is told by the caption of cmdAcceptRatios.
 bool ratio_panel_in_edit_mode(const Frm2Time& form);
-void find_ratio_columns(Context& context);  // RatioCol and the labels from the names of the last ratio plot
+int column_named(const RunState& rs, const std::string& name);  // the last of that name; 0 = none, and for ""
+void find_ratio_columns(RunState& rs);                          // RatioCol from ratioName
+void show_ratio_names(Context& context);                        // the labels from both
 void connect_ratio_panel(Program& program);
 
 // How many analytes can be chosen: the columns, at most 50.

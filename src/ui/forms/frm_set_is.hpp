@@ -105,6 +105,7 @@ struct FrmSetIS : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
     CheckBox& chkRatio(int pair);  // 1..6
+    [[nodiscard]] const CheckBox& chkRatio(int pair) const { return const_cast<FrmSetIS&>(*this).chkRatio(pair); }
 };
 
 }  // namespace kolvar
