@@ -35,6 +35,9 @@ public:
     T& operator()(int i) { return cells_[checked(i)]; }
     const T& operator()(int i) const { return cells_[checked(i)]; }
     [[nodiscard]] int last() const { return last_; }
+    // Cells first..last; none when last is below first.
+    std::span<T> range(int first, int upto) { return {&cells_[checked(first)], length(first, upto)}; }
+    std::span<const T> range(int first, int upto) const { return {&cells_[checked(first)], length(first, upto)}; }
     void fill(const T& cell) {
         for (int i = 0; i <= last_; ++i) cells_[static_cast<std::size_t>(i)] = cell;
     }
@@ -43,6 +46,9 @@ private:
     [[nodiscard]] std::size_t checked(int i) const {
         if (i < 0 || i > last_) fail(FaultKind::index);
         return static_cast<std::size_t>(i);
+    }
+    [[nodiscard]] std::size_t length(int first, int upto) const {
+        return upto < first ? 0 : checked(upto) - checked(first) + 1;
     }
     int last_;
     std::unique_ptr<T[]> cells_;

@@ -5,6 +5,7 @@
 #include "core/fault.hpp"
 #include "core/files.hpp"
 #include "core/numbers.hpp"
+#include "import/recognition.hpp"
 #include "import/table_reader.hpp"
 #include "trace/statistics.hpp"
 
@@ -168,8 +169,8 @@ void AfterImport(Context& context) {
     SplitIsoNames(rs);
     if (rs.Method == 1 || rs.Method == 3) {
         rs.BeamStart = 0;
-        // The columns are to be recognised by their role here, before the intervals: Pb, Th, U and Hg on Method 1, the
-        // analytes of the catalogue on Method 3. That comes with the screens of these paths.
+        if (rs.Method == 1) RecogniseUPb(rs);
+        if (rs.Method == 3) RecogniseFlex(rs);
         MaintainIntervals(context);
         return;
     }
@@ -216,10 +217,10 @@ void MaintainIntervals(Context& context) {
     }
 }
 
-bool ChooseDataFile(Context& context) {
+bool ChooseDataFile(Context& context, const std::string& folder) {
     RunState& rs = context.rs;
     Running running(rs, "ChooseDataFile");
-    rs.SetFilePath = context.os.open_file({data_file_filter, all_registered, "", ""});
+    rs.SetFilePath = context.os.open_file({data_file_filter, all_registered, "", folder});
     if (rs.SetFilePath.empty()) return false;
     rs.AppPath2 = folder_of(rs.SetFilePath);
     rs.DataFilePath = rs.SetFilePath;

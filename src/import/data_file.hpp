@@ -24,7 +24,8 @@ void SplitIsoNames(RunState& rs);
 void AfterImport(Context& context);
 void MaintainIntervals(Context& context);
 
-// The dialog, the dispatch to a reader. False when the dialog was cancelled.
-bool ChooseDataFile(Context& context);
+// The dialog, opened in `folder` ("" = the system's choice), and the dispatch to a reader. False when the dialog was
+// cancelled.
+bool ChooseDataFile(Context& context, const std::string& folder = {});
 
 }  // namespace kolvar

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "screens/plots.hpp"
 #include "ui/context.hpp"
 
 namespace kolvar::plot {
@@ -16,8 +17,8 @@ struct Area {
     Canvas& canvas;
     double width, height;  // twips
 };
-Area upper_area(Frm2Time& frm);
-Area lower_area(Frm2Time& frm);
+Area upper_area(TimeScreen& frm);
+Area lower_area(TimeScreen& frm);
 
 // A label of the window, and the note of it in the list of the plot it stands beside.
 void show_label(Canvas& canvas, Label& label, const std::string& text, double left, double top);
@@ -28,10 +29,11 @@ bool blank_is_marked_here(const RunState& rs);
 
 // Steps common to the plots: labels of the scales hidden, ground and lines of the intervals, the guides of the file
 // before together with the labels of the limits.
-void hide_scale_labels(Frm2Time& frm);
+void hide_scale_labels(TimeScreen& frm);
 void draw_interval_tints(const RunState& rs, const Area& area);
 void draw_interval_lines(const RunState& rs, const Area& area);
-void show_guides(Context& context);
+void show_former_selection(const RunState& rs, TimeScreen& frm);
+void show_guides(RunState& rs, TimeScreen& frm);
 
 // Colour of the curve of a column, 1..50.
 Colour curve_colour(int column);
@@ -88,9 +90,13 @@ void draw_lower_plot(Context& context);
 
 // A typed or scrolled limit above 0 takes the place of the maximum, once: the entry is emptied.
 void take_entered_limit(Value& entry, double& maximum);
-// Decades of a logarithmic scale that ends at `maximum`: ticks, the labels of the first seven, lines when they are on.
-void draw_decades(Frm2Time& frm, double maximum);
-void draw_linear_divisions(Frm2Time& frm, double steps);
+// The end of the upper scale: the highest signal or the limit that the user has set, rounded up.
+NiceEnd take_upper_scale(RunState& rs, TimeScreen& frm, double highest);
+// The caption of the button says what it will do: "OFF" stands there while the lines are shown.
+bool lines_shown(const Frm2Time& frm);
+// Decades of a logarithmic scale that ends at `maximum`: ticks, the labels of the first seven, and lines across.
+void draw_decades(TimeScreen& frm, double maximum, bool lines);
+void draw_linear_divisions(TimeScreen& frm, double steps);
 // The number at a scale's end: left of the plot, its middle a tenth of the plot's height below the top.
 void show_maximum(Picture& plot, Label& label, const std::string& text);
 

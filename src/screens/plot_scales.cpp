@@ -19,11 +19,8 @@ double power_of_ten(int exponent) { return powers[static_cast<std::size_t>(expon
 
 int digits_of_integer_part(double number) { return static_cast<int>(decimal(std::floor(std::fabs(number))).size()); }
 
-// The caption of the button says what it will do: "OFF" stands there while the lines are shown.
-bool lines_shown(const Frm2Time& frm) { return frm.cmdHorizLines.text == "Horiz. lines OFF"; }
-
-void draw_mark(const Frm2Time& frm, const plot::Area& area, double y) {
-    if (lines_shown(frm)) area.canvas.Line(0, y, area.width, y, palette(7));
+void draw_mark(const plot::Area& area, double y, bool line) {
+    if (line) area.canvas.Line(0, y, area.width, y, palette(7));
     area.canvas.Line(0, y, tick_length, y, palette(8));
 }
 
@@ -55,14 +52,30 @@ void take_entered_limit(Value& entry, double& maximum) {
     entry = "";
 }
 
-void draw_decades(Frm2Time& frm, double maximum) {
+NiceEnd take_upper_scale(RunState& rs, TimeScreen& frm, double highest) {
+    rs.MaxCps = highest;
+    take_entered_limit(rs.YMaxEntry, rs.MaxCps);
+    frm.lbluppScal.text = decimal(rs.MaxCps);
+    const NiceEnd end = NiceScale(rs.MaxCps);
+    rs.ScaleStep = end.steps;
+    rs.MaxCps = end.maximum;
+    if (rs.ScaleFresh || rs.AutoScale1) {
+        rs.FullMax = rs.MaxCps;
+        rs.ScaleFresh = rs.AutoScale1 = false;
+    }
+    return end;
+}
+
+bool lines_shown(const Frm2Time& frm) { return frm.cmdHorizLines.text == "Horiz. lines OFF"; }
+
+void draw_decades(TimeScreen& frm, double maximum, bool lines) {
     const Area area = upper_area(frm);
     const std::array<Label*, 7> labels{&frm.lbl10,   &frm.lbl100, &frm.lbl1000, &frm.lbl10k,
                                        &frm.lbl100k, &frm.lbl1m,  &frm.lbl10m};
     const int decades = digits_of_integer_part(maximum) - 1;
     for (int i = 1; i <= decades; ++i) {
         const double y = area.height - area.height * 0.9 * i / Log10(maximum);
-        draw_mark(frm, area, y);
+        draw_mark(area, y, lines);
         if (i > static_cast<int>(labels.size())) continue;
         Label& label = *labels[static_cast<std::size_t>(i) - 1];
         show_label(area.canvas, label, label.text, frm.pict1.left - label.width,
@@ -70,10 +83,9 @@ void draw_decades(Frm2Time& frm, double maximum) {
     }
 }
 
-void draw_linear_divisions(Frm2Time& frm, double steps) {
-    if (!lines_shown(frm)) return;
+void draw_linear_divisions(TimeScreen& frm, double steps) {
     const Area area = upper_area(frm);
-    for (int i = 1; i <= std::floor(steps); ++i) draw_mark(frm, area, area.height - area.height * 0.9 * i / steps);
+    for (int i = 1; i <= std::floor(steps); ++i) draw_mark(area, area.height - area.height * 0.9 * i / steps, true);
 }
 
 void show_maximum(Picture& plot, Label& label, const std::string& text) {

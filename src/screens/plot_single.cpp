@@ -30,7 +30,7 @@ void draw_pict1(Context& context) {
     plot::hide_scale_labels(frm);
     area.canvas.Clear();
     plot::draw_interval_tints(rs, area);
-    plot::show_guides(context);
+    plot::show_guides(rs, frm);
 
     // The maximum is the caller's. In the logarithmic view each draw takes its logarithm, and a typed limit, which
     // comes after that, counts as one.
@@ -52,7 +52,7 @@ void draw_pict1(Context& context) {
         // The decades count the digits of the logarithm's logarithm here, so that hardly ever one is marked; the plot
         // of all curves counts those of the maximum itself.
         if (rs.MaxCps != 0) rs.MaxCps = logarithm(std::fabs(rs.MaxCps));
-        plot::draw_decades(frm, rs.MaxCps);
+        plot::draw_decades(frm, rs.MaxCps, plot::lines_shown(frm));
     }
     if (rs.ModeData == 1) draw_pict2(context);
 }

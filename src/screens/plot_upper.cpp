@@ -28,25 +28,16 @@ double highest_signal(const RunState& rs) {
 void draw_upper_plot(Context& context) {
     RunState& rs = context.rs;
     Frm2Time& frm = context.forms.frm2_Time;
-    rs.MaxCps = highest_signal(rs);
-    plot::take_entered_limit(rs.YMaxEntry, rs.MaxCps);
-    frm.lbluppScal.text = decimal(rs.MaxCps);
-    const NiceEnd end = NiceScale(rs.MaxCps);
-    rs.ScaleStep = end.steps;
-    rs.MaxCps = end.maximum;
-    if (rs.ScaleFresh || rs.AutoScale1) {
-        rs.FullMax = rs.MaxCps;
-        rs.ScaleFresh = rs.AutoScale1 = false;
-    }
+    const NiceEnd end = plot::take_upper_scale(rs, frm, highest_signal(rs));
     plot::show_maximum(frm.pict1, frm.lblMaxCps, Format(rs.MaxCps, "0"));
     if (rs.MaxCps > 0 && !rs.LinearView) rs.MaxCps = logarithm(rs.MaxCps);
 
     if (!rs.LinearView) plot::hide_label(frm.pict1.canvas, frm.lblMaxCps);
     if (!any_curve_chosen(rs)) return;  // the intervals alone, without a scale
-    if (rs.LinearView)
+    if (!rs.LinearView)
+        plot::draw_decades(frm, end.maximum, plot::lines_shown(frm));
+    else if (plot::lines_shown(frm))
         plot::draw_linear_divisions(frm, rs.ScaleStep);
-    else
-        plot::draw_decades(frm, end.maximum);
 
     const plot::Area area = plot::upper_area(frm);
     const plot::Scale scale(area.height, rs.MaxCps, rs.LinearView);
@@ -71,7 +62,7 @@ void draw_all(Context& context) {
     frm.pict2.canvas.Clear();
     plot::draw_interval_tints(rs, plot::upper_area(frm));
     plot::draw_interval_tints(rs, plot::lower_area(frm));
-    plot::show_guides(context);
+    plot::show_guides(rs, frm);
     draw_upper_plot(context);
     plot::draw_lower_plot(context);
 }

@@ -30,11 +30,11 @@ void draw_intervals(const RunState& rs, const Area& area, bool tinted) {
 
 }  // namespace
 
-Area upper_area(Frm2Time& frm) {
+Area upper_area(TimeScreen& frm) {
     return {frm.pict1.canvas, static_cast<double>(frm.pict1.width), static_cast<double>(frm.pict1.height)};
 }
 
-Area lower_area(Frm2Time& frm) {
+Area lower_area(TimeScreen& frm) {
     return {frm.pict2.canvas, static_cast<double>(frm.pict1.width), static_cast<double>(frm.pict2.height)};
 }
 
@@ -52,7 +52,7 @@ void hide_label(Canvas& canvas, Label& label) {
 
 bool blank_is_marked_here(const RunState& rs) { return rs.BlankFromData == 1 && rs.ModeCreateBLK != 1; }
 
-void hide_scale_labels(Frm2Time& frm) {
+void hide_scale_labels(TimeScreen& frm) {
     for (Label* label : {&frm.lbl10, &frm.lbl100, &frm.lbl1000, &frm.lbl10k, &frm.lbl100k, &frm.lbl1m, &frm.lbl10m})
         hide_label(frm.pict1.canvas, *label);
     hide_label(frm.pict2.canvas, frm.lblRatios);
@@ -61,9 +61,7 @@ void hide_scale_labels(Frm2Time& frm) {
 void draw_interval_tints(const RunState& rs, const Area& area) { draw_intervals(rs, area, true); }
 void draw_interval_lines(const RunState& rs, const Area& area) { draw_intervals(rs, area, false); }
 
-void show_guides(Context& context) {
-    RunState& rs = context.rs;
-    Frm2Time& frm = context.forms.frm2_Time;
+void show_former_selection(const RunState& rs, TimeScreen& frm) {
     const bool former = rs.FormerUppX > rs.FormerLowX;
     const bool former_blank = former && blank_is_marked_here(rs);
     frm.lblFormer1.visible = frm.lblFormer2.visible = frm.pictFormer.visible = former;
@@ -75,7 +73,11 @@ void show_guides(Context& context) {
         frm.pictFormer.height = strip_height;
     }
     if (former_blank) frm.lblFormerBL2.text = rs.FormerBlkLow.text() + " - " + rs.FormerBlkUpp.text();
-    place_limit_labels(context);
+}
+
+void show_guides(RunState& rs, TimeScreen& frm) {
+    show_former_selection(rs, frm);
+    place_limit_labels(rs, frm);
     frm.lblMeasSel.text = rs.SelN.val() > 0 ? rs.SelN.text() : std::string();
     rs.BlkN = rs.BlkUpp.val() - rs.BlkLow.val() + 1;
 }

@@ -21,4 +21,9 @@ void draw_all(Context& context);
 void draw_pict1(Context& context);
 void draw_pict2(Context& context);
 
+// The U/Pb and FLEX screen: the signals, and below them, once all four limits stand, the calculation of the file and
+// its ratios over time. While a file is taken in nothing is drawn or calculated.
+void draw_UP(Context& context);
+void draw_UPratio(Context& context);
+
 }  // namespace kolvar

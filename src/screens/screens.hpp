@@ -11,6 +11,8 @@ void connect_screens(Program& program);
 void connect_settings_window(Program& program);
 void connect_report_windows(Program& program);
 void connect_time_window(Program& program);
+void connect_up_window(Program& program);
+void connect_uranium_lead_reports(Program& program);
 void connect_matrix_window(Program& program);
 void connect_output_windows(Program& program);
 void connect_set_is_window(Program& program);

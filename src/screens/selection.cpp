@@ -18,8 +18,8 @@ constexpr int right_button = 2;
 bool selection_stands(const RunState& rs) { return rs.SelLow.is_set() && rs.SelUpp.is_set(); }
 bool blank_stands(const RunState& rs) { return rs.BlkLow.is_set() && rs.BlkUpp.is_set(); }
 
-int clicked_slice(const Context& context) {
-    return slice_at(context.rs.ClickX, context.forms.frm2_Time.pict1.width, context.rs.nSlices);
+int clicked_slice(const RunState& rs, const TimeScreen& screen) {
+    return slice_at(rs.ClickX, screen.pict1.width, rs.nSlices);
 }
 
 // Also from one limit alone: the first click at slice 20 counts -19 slices, which no label shows.
@@ -29,13 +29,13 @@ void count_selection(RunState& rs) {
 }
 
 // The beam can't start after the selection does: such a click is lost, and the next one still sets the beam start.
-// The redraw that follows belongs to the screen of the U/Pb path, which comes in a later version.
-void mark_beam_start(Context& context) {
+void mark_beam_start(Context& context, const TimeScreen& screen) {
     RunState& rs = context.rs;
-    const int slice = clicked_slice(context);
+    const int slice = clicked_slice(rs, screen);
     if (rs.SelLow.is_set() && slice > rs.SelLow.val()) return;
     rs.BeamStart = slice;
     rs.WaitBeamStart = false;
+    draw_UP(context);
 }
 
 // The user overrides a proposal of the refinement that was not accepted: its limits become the selection, which the
@@ -53,45 +53,43 @@ void take_over_stale_proposal(RunState& rs) {
 
 // False when the click is dropped because one limit would pass the other. A limit that stands at position 0 stops
 // nothing.
-bool mark_limit(Context& context, Limit& low, double& low_x, Limit& upp, double& upp_x) {
-    const double x = context.rs.ClickX;
-    if (context.rs.ClickButton == left_button) {
+bool mark_limit(const RunState& rs, const TimeScreen& screen, Limit& low, double& low_x, Limit& upp, double& upp_x) {
+    const double x = rs.ClickX;
+    if (rs.ClickButton == left_button) {
         if (upp_x > 0 && upp_x < x) return false;
-        low = clicked_slice(context);
+        low = clicked_slice(rs, screen);
         low_x = x;
     }
-    if (context.rs.ClickButton == right_button) {
+    if (rs.ClickButton == right_button) {
         if (low_x > 0 && low_x > x) return false;
-        upp = clicked_slice(context);
+        upp = clicked_slice(rs, screen);
         upp_x = x;
     }
     return true;
 }
 
-bool mark_signal(Context& context) {
-    RunState& rs = context.rs;
-    Frm2Time& frm = context.forms.frm2_Time;
-    if (!mark_limit(context, rs.SelLow, rs.SelLowX, rs.SelUpp, rs.SelUppX)) return false;
+bool mark_signal(RunState& rs, TimeScreen& screen) {
+    if (!mark_limit(rs, screen, rs.SelLow, rs.SelLowX, rs.SelUpp, rs.SelUppX)) return false;
     // A click at the left edge means the first slice; of the four limits this one alone is put right.
     if (rs.ClickButton == left_button && rs.SelLow.val() == 0) rs.SelLow = 1;
     // The number that was clicked, a 0 at the left edge too.
-    if (rs.ClickButton == right_button) frm.lblUpp.text = rs.SelUpp.text();
-    place_limit_labels(context);
+    if (rs.ClickButton == right_button) screen.lblUpp.text = rs.SelUpp.text();
+    place_limit_labels(rs, screen);
     count_selection(rs);
     if (rs.SelN.val() > 0) {
-        frm.lblMeasSel.text = rs.SelN.text();
-        if (plot::blank_is_marked_here(rs)) frm.lblBLKshow.visible = frm.lblBLKtolig.visible = true;
+        screen.lblMeasSel.text = rs.SelN.text();
+        if (plot::blank_is_marked_here(rs)) screen.lblBLKshow.visible = screen.lblBLKtolig.visible = true;
     }
     return true;
 }
 
-bool mark_blank(Context& context) {
+bool mark_blank(Context& context, TimeScreen& screen) {
     RunState& rs = context.rs;
     if (rs.BlankFromData != 1) return true;
-    if (!mark_limit(context, rs.BlkLow, rs.BlkLowX, rs.BlkUpp, rs.BlkUppX)) return false;
+    if (!mark_limit(rs, screen, rs.BlkLow, rs.BlkLowX, rs.BlkUpp, rs.BlkUppX)) return false;
     count_selection(rs);
     rs.BlkN = rs.BlkUpp.val() - rs.BlkLow.val() + 1;
-    if (rs.BlkN > 0) context.forms.frm2_Time.lblBLKtolig.text = rs.BlkLow.text() + " - " + rs.BlkUpp.text();
+    if (rs.BlkN > 0) screen.lblBLKtolig.text = rs.BlkLow.text() + " - " + rs.BlkUpp.text();
     if (blank_stands(rs)) ComputeBlank(rs, context.os);
     return true;
 }
@@ -122,27 +120,25 @@ void correct_and_draw(Context& context) {
     }
 }
 
-// The results and the rejection of outliers that a former selection gave no longer hold. What their screen shows of
-// them, and its redraw, comes with the U/Pb screen in a later version.
-void drop_stale_results(RunState& rs) {
+// The results and the rejection of outliers that a former selection gave no longer hold.
+void drop_stale_results(Context& context) {
+    RunState& rs = context.rs;
     if (!selection_stands(rs) || !blank_stands(rs)) return;
     if (rs.RejectOn) {
-        rs.RejectOn = false;
-        rs.SelNGood = rs.SelN.val();
-        for (int t = rs.SelLow.val(); t <= rs.SelUpp.val(); ++t) rs.RejFlag(t) = 0;
+        restore_rejected(rs, context.forms.frm2_UP);
+        context.forms.frm2_UP.lblReject.visible = context.forms.frm2_UP.lblOM.visible = false;
     }
     rs.ZizzRunning = false;
     rs.ZizzMin68 = 0;
     rs.ZizzMin75 = 0;
 }
 
-void enable_what_the_limits_allow(Context& context) {
+void enable_what_the_limits_allow(Context& context, TimeScreen& screen) {
     const RunState& rs = context.rs;
-    Frm2Time& frm = context.forms.frm2_Time;
     if (selection_stands(rs) && blank_stands(rs)) {
-        frm.cmdReject.enabled = true;
-        if (rs.Method == 1) frm.cmdCopySel.enabled = true;
-        frm.cmdCopyHead.enabled = frm.cmdCopy.enabled = frm.cmdApp.enabled = true;
+        screen.cmdReject.enabled = true;
+        if (rs.Method == 1) screen.cmdCopySel.enabled = true;
+        screen.cmdCopyHead.enabled = screen.cmdCopy.enabled = screen.cmdApp.enabled = true;
     }
     enable_results(context);
 }
@@ -159,10 +155,10 @@ double position_of(int slice, double width, int slices) {
     return slices > 0 ? width * slice / slices : 0.0;  // nothing is loaded: nothing stands anywhere
 }
 
-void OnPlotDown(Context& context, int plot, int button, int shift, double x, double y) {
+void OnPlotDown(Context& context, TimeScreen& screen, int plot, int button, int shift, double x, double y) {
     RunState& rs = context.rs;
     const Running running(rs, "OnPlotDown");
-    if (plot == 1) context.forms.frm2_Time.cmdReject.enabled = true;
+    if (plot == 1) screen.cmdReject.enabled = true;
     rs.ZizzRunning = false;
     if (rs.CurvesShown == 0) {
         context.os.warn("Select first one ore more isotopes!", "");
@@ -172,40 +168,42 @@ void OnPlotDown(Context& context, int plot, int button, int shift, double x, dou
     rs.ClickY = y;
     rs.ClickButton = button;
     rs.ClickShift = shift;
-    mark_selection(context);
+    mark_selection(context, screen);
 }
 
 // Every click brings the plots back to their full height: who has zoomed in has to zoom again.
-void OnPlotUp(Context& context) {
+void OnPlotUp(Context& context, TimeScreen& screen) {
     const Running running(context.rs, "OnPlotUp");
-    context.forms.frm2_Time.VScroll1.set_value(1);
-    if (context.rs.Method == 0) context.forms.frm2_Time.VScroll3.set_value(1);
+    screen.VScroll1.set_value(1);
+    if (context.rs.Method == 0) screen.VScroll3.set_value(1);
 }
 
-void mark_selection(Context& context) {
+void mark_selection(Context& context, TimeScreen& screen) {
     RunState& rs = context.rs;
     const Running running(rs, "mark_selection");
     const bool uranium_lead = rs.Method == 1 || rs.Method == 3;
     if (uranium_lead && rs.WaitBeamStart) {
-        mark_beam_start(context);
+        mark_beam_start(context, screen);
         return;
     }
     take_over_stale_proposal(rs);
     // A dropped click leaves everything as it is: no redraw, and ClickShift stands.
-    if (rs.ClickShift == 0 && !mark_signal(context)) return;
-    if (rs.ClickShift == 1 && !mark_blank(context)) return;
+    if (rs.ClickShift == 0 && !mark_signal(rs, screen)) return;
+    if (rs.ClickShift == 1 && !mark_blank(context, screen)) return;
     rs.ClickShift = 0;
     if (rs.Method == 0) correct_and_draw(context);
-    if (uranium_lead) drop_stale_results(rs);
-    enable_what_the_limits_allow(context);
+    if (uranium_lead) {
+        drop_stale_results(context);
+        draw_UP(context);
+    }
+    enable_what_the_limits_allow(context, screen);
 }
 
 void OnBeamStartLabel(RunState& rs) { rs.WaitBeamStart = true; }
 
-void positions_from_slices(Context& context) {
-    RunState& rs = context.rs;
+void positions_from_slices(RunState& rs, const TimeScreen& screen) {
     const Running running(rs, "OnResize");
-    const double width = context.forms.frm2_Time.pict1.width;
+    const double width = screen.pict1.width;
     const auto position = [&](const Limit& limit) { return position_of(limit.val(), width, rs.nSlices); };
     rs.SelLowX = position(rs.SelLow);
     rs.SelUppX = position(rs.SelUpp);
@@ -215,19 +213,17 @@ void positions_from_slices(Context& context) {
     rs.FormerUppX = position(rs.FormerUpp);
 }
 
-void place_limit_labels(Context& context) {
-    const RunState& rs = context.rs;
-    Frm2Time& frm = context.forms.frm2_Time;
+void place_limit_labels(const RunState& rs, TimeScreen& screen) {
     // A limit at 0 keeps what its label reads: the 0 that was clicked, or nothing after the window has come up.
     const auto shown = [](const Limit& limit, const Label& label) {
         return limit.is_set() && limit.val() == 0 ? label.text : limit.text();
     };
-    const double left = frm.pict1.left;
-    const double top = frm.pict1.top + frm.pict1.height + 100;
+    const double left = screen.pict1.left;
+    const double top = screen.pict1.top + screen.pict1.height + 100;
     // The number of the lower limit ends at its line, that of the upper one begins at its line.
-    plot::show_label(frm.pict1.canvas, frm.lblLow, shown(rs.SelLow, frm.lblLow), left + rs.SelLowX - frm.lblLow.width,
-                     top);
-    plot::show_label(frm.pict1.canvas, frm.lblUpp, shown(rs.SelUpp, frm.lblUpp), left + rs.SelUppX, top);
+    plot::show_label(screen.pict1.canvas, screen.lblLow, shown(rs.SelLow, screen.lblLow),
+                     left + rs.SelLowX - screen.lblLow.width, top);
+    plot::show_label(screen.pict1.canvas, screen.lblUpp, shown(rs.SelUpp, screen.lblUpp), left + rs.SelUppX, top);
 }
 
 }  // namespace kolvar

@@ -11,15 +11,15 @@ double position_of(int slice, double width, int slices);
 
 // Mouse button down over pict1 (plot 1) or pict2 (plot 2), and up again. button 1 left, 2 right; shift: 0 none,
 // 1 SHIFT, else other modifiers.
-void OnPlotDown(Context& context, int plot, int button, int shift, double x, double y);
-void OnPlotUp(Context& context);
+void OnPlotDown(Context& context, TimeScreen& screen, int plot, int button, int shift, double x, double y);
+void OnPlotUp(Context& context, TimeScreen& screen);
 // Applies the stored click (ClickX, ClickButton, ClickShift).
-void mark_selection(Context& context);
+void mark_selection(Context& context, TimeScreen& screen);
 // A click on the label of the beam start: the next click on the plot sets it.
 void OnBeamStartLabel(RunState& rs);
 // The plot's width has changed: positions anew from the slices.
-void positions_from_slices(Context& context);
+void positions_from_slices(RunState& rs, const TimeScreen& screen);
 // The labels of the limits move to their places beside the plot and show the limits.
-void place_limit_labels(Context& context);
+void place_limit_labels(const RunState& rs, TimeScreen& screen);
 
 }  // namespace kolvar

@@ -119,7 +119,7 @@ void OnResize(Context& context) {
     }
     form.VScroll1.set_value(1);
     lay_out_time_window(context);
-    positions_from_slices(context);
+    positions_from_slices(rs, form);
     if (rs.setAllCurve.val() == 0)
         draw_pict1(context);
     else

@@ -55,9 +55,9 @@ void show_limits(Context& context) {
     form.lblMeasTot.text = std::to_string(rs.nSlices);
     if (all_limits_set(rs)) {
         form.lblBLKtolig.text = rs.BlkLow.text() + " - " + rs.BlkUpp.text();
-        positions_from_slices(context);
+        positions_from_slices(rs, form);
     }
-    place_limit_labels(context);
+    place_limit_labels(rs, form);
 }
 
 void reset_scale_controls(Frm2Time& form) {
@@ -127,7 +127,7 @@ void open_time_window(Context& context) {
     // Another number of analytes takes another width from the plots.
     const int former_width = form.pict1.width;
     lay_out_time_window(context);
-    if (form.pict1.width != former_width) positions_from_slices(context);
+    if (form.pict1.width != former_width) positions_from_slices(rs, form);
     show_limits(context);
     form.cmdShowConc.enabled = form.cmdAppQuick.enabled = form.cmdCopyRatios.enabled = rs.SelN.val() != 0;
     (rs.LinearView ? form.optLi : form.optLo).set_value_quietly(1);

@@ -36,39 +36,17 @@ void choose_scale(Context& context, bool linear) {
     context.forms.frm2_Time.VScroll1.set_value(1);
 }
 
-void open_scale_entry(Frm2Time& form, const Label& shown, Label& head, Entry& entry) {
-    head.visible = entry.visible = true;
-    entry.text = shown.text;
-    form.set_focus(entry);
-}
-
-// An upper limit typed for a plot. False when it was refused.
-bool take_scale_entry(Context& context, Label& shown, Label& head, Entry& entry, Value& limit) {
-    const double typed = Val(entry.text);
-    if (typed <= 0) {
-        context.os.warn("The entered value is not a positive number!");
-        entry.text.clear();
-        context.forms.frm2_Time.set_focus(entry);
-        return false;
-    }
-    shown.text = decimal(typed);
-    head.visible = entry.visible = false;
-    entry.text.clear();
-    limit = typed;
-    return true;
-}
-
 void enter_upper_limit(Context& context) {
     Frm2Time& form = context.forms.frm2_Time;
     // The single-curve drawing also where all curves are shown: the next redraw brings them back.
-    if (take_scale_entry(context, form.lblMaxCps, form.lblXNew, form.txtYMaxInp, context.rs.YMaxEntry))
+    if (take_scale_entry(context, form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp, context.rs.YMaxEntry))
         draw_pict1(context);
 }
 
 void enter_lower_limit(Context& context) {
     RunState& rs = context.rs;
     Frm2Time& form = context.forms.frm2_Time;
-    if (!take_scale_entry(context, form.lblMaxIIS, form.lblXNew2, form.txtYMaxInp2, rs.YMaxEntry2)) return;
+    if (!take_scale_entry(context, form, form.lblMaxIIS, form.lblXNew2, form.txtYMaxInp2, rs.YMaxEntry2)) return;
     if (rs.ModeData != 1) return;
     if (rs.setAllCurve.val() == 0)
         draw_pict1(context);
@@ -136,12 +114,13 @@ void connect_plots(Program& program) {
     for (const int plot : {1, 2}) {
         const std::string picture = "pict" + std::to_string(plot);
         program.on(form, picture, EventKind::press, [&context, plot](const Event& event) {
-            OnPlotDown(context, plot, event.button, event.shift, event.x, event.y);
+            OnPlotDown(context, context.forms.frm2_Time, plot, event.button, event.shift, event.x, event.y);
         });
-        program.on(form, picture, EventKind::release, [&context](const Event&) { OnPlotUp(context); });
+        program.on(form, picture, EventKind::release,
+                   [&context](const Event&) { OnPlotUp(context, context.forms.frm2_Time); });
         program.on(form, picture, EventKind::resize, [&context](const Event&) {
             lay_out_time_window(context);
-            positions_from_slices(context);
+            positions_from_slices(context.rs, context.forms.frm2_Time);
             if (context.rs.setAllCurve.val() == 0)
                 draw_pict1(context);
             else
@@ -161,6 +140,27 @@ void connect_plots(Program& program) {
 }
 
 }  // namespace
+
+void open_scale_entry(TimeScreen& form, const Label& shown, Label& head, Entry& entry) {
+    head.visible = entry.visible = true;
+    entry.text = shown.text;
+    form.set_focus(entry);
+}
+
+bool take_scale_entry(Context& context, TimeScreen& form, Label& shown, Label& head, Entry& entry, Value& limit) {
+    const double typed = Val(entry.text);
+    if (typed <= 0) {
+        context.os.warn("The entered value is not a positive number!");
+        entry.text.clear();
+        form.set_focus(entry);
+        return false;
+    }
+    shown.text = decimal(typed);
+    head.visible = entry.visible = false;
+    entry.text.clear();
+    limit = typed;
+    return true;
+}
 
 void reset_zoom(Frm2Time& form) {
     form.VScroll1.set_value(1);

@@ -25,9 +25,15 @@ void connect_ratio_panel(Program& program);
 // How many analytes can be chosen: the columns, at most 50.
 int choosable_analytes(const RunState& rs);
 bool all_limits_set(const RunState& rs);
+// Of the signals that the U/Pb and FLEX calculations use, in raw cps.
+double highest_signal_by_role(const RunState& rs);
 // After a click: preview of the averages and the result buttons become usable as soon as the limits that they need are
 // set.
 void enable_results(Context& context);
+
+// The field for an upper limit beside a plot: opened at the number shown, and read. False when the number was refused.
+void open_scale_entry(TimeScreen& form, const Label& shown, Label& head, Entry& entry);
+bool take_scale_entry(Context& context, TimeScreen& form, Label& shown, Label& head, Entry& entry, Value& limit);
 
 // Both zoom bars back to full scale.
 void reset_zoom(Frm2Time& form);

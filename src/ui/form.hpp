@@ -34,6 +34,13 @@ protected:
     static void put_into(Control& holder, std::initializer_list<Control*> held) {
         for (Control* control : held) control->parent = &holder;
     }
+    // The tabulator comes to these last, in this order.
+    void last_in_tab_order(std::initializer_list<Control*> last) {
+        for (Control* control : last) {
+            std::erase(controls, control);
+            controls.push_back(control);
+        }
+    }
 };
 
 }  // namespace kolvar

@@ -6,7 +6,7 @@
 
 namespace kolvar {
 
-Frm2Time::Frm2Time() : Form("frm2_Time", "KOLVAR  -  Step 2: Selection of time slices", true) {
+Frm2Time::Frm2Time() : TimeScreen("frm2_Time", "KOLVAR  -  Step 2: Selection of time slices", true) {
     width = 16500;
     height = 10200;
     put_into(hlp2Title, {&hlp2});
@@ -16,16 +16,13 @@ Frm2Time::Frm2Time() : Form("frm2_Time", "KOLVAR  -  Step 2: Selection of time s
     put_into(pictRatios,
              {&chkR1, &chkR2, &chkR3, &chkR4, &chkR5, &chkR6, &lblExplanation, &cmdAcceptRatios, &cmdClose});
     put_into(pictRightSide, {&optLi, &optLo, &cmdHorizLines, &cmdRatios, &cmdShowConc, &cmdAppQuick, &cmdCopyRatios});
+    last_in_tab_order({&cmdExit, &cmsSettings, &cmdBack, &cmdNext});
 
-    optLo.value = 1;
+    hide_until_needed();
     for (CheckBox& box : chkIs) box.visible = false;
-    for (Control* hidden : std::initializer_list<Control*>{
-             &cmdReject,  &cmdCopy,           &cmdCopyHead, &cmdApp,         &cmdNewFile,   &cmdSett,
-             &cmdCopySel, &lblHgCorrNegative, &pictRatios,  &lblExplanation, &lblOver50Iso, &frameIso2,
-             &pictFormer, &lblFormer1,        &lblFormer2,  &lblFormerBL1,   &lblFormerBL2, &lblXNew,
-             &lblXNew2,   &txtYMaxInp,        &txtYMaxInp2, &lbl10,          &lbl100,       &lbl1000,
-             &lbl10k,     &lbl100k,           &lbl1m,       &lbl10m,         &lblRatios,    &lblBLKshow,
-             &lblBLKtolig})
+    for (Control* hidden :
+         std::initializer_list<Control*>{&cmdReject, &cmdCopy, &cmdCopyHead, &cmdApp, &cmdNewFile, &cmdSett,
+                                         &cmdCopySel, &pictRatios, &lblExplanation, &lblOver50Iso, &frameIso2})
         hidden->visible = false;
     cmdReject.enabled = cmdShowConc.enabled = cmdAppQuick.enabled = cmdCopyRatios.enabled = false;
 }

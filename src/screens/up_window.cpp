@@ -1,0 +1,217 @@
+#include "screens/up_window.hpp"
+
+#include <array>
+
+#include "core/files.hpp"
+#include "core/numbers.hpp"
+#include "import/data_file.hpp"
+#include "screens/plots.hpp"
+#include "screens/screens.hpp"
+#include "screens/selection.hpp"
+#include "screens/settings_window.hpp"
+#include "screens/time_window.hpp"
+#include "screens/uranium_lead_files.hpp"
+#include "trace/concentrations.hpp"
+#include "trace/statistics.hpp"
+#include "upb/export.hpp"
+#include "upb/outliers.hpp"
+#include "upb/ratio_fields.hpp"
+#include "upb/scatter_plot.hpp"
+
+namespace kolvar {
+
+namespace {
+
+void cmdReject(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    if (rs.RejectOn) {
+        restore_rejected(rs, form);
+    } else {
+        form.cmdReject.text = "Restore rejection";
+        form.lblReject.text = "Rejected:";
+        emphasise_rejection(form, true);
+        rs.RejectOn = true;
+        // Rejected slices are struck out one by one.
+        form.lblFusion.text = "1";
+        form.VScroll2.set_value(1);
+        Out_Liers(rs, form);
+    }
+    draw_UPratio(context);
+}
+
+void show_outliers(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    const bool limits = all_limits_set(rs);
+    if (limits) draw_UPratio(context);
+    const bool on = form.chkShowSD.on();
+    if (!on) form.cmdReject.enabled = false;
+    if (on && limits) form.cmdReject.enabled = true;
+    form.lblReject.visible = form.lblOM.visible = on;
+}
+
+void correct_mercury(Context& context) {
+    Frm2UP& form = context.forms.frm2_UP;
+    form.lblFLEXiso(7).text = form.chkHgCorr.on() ? "Pb204" : "204";
+    draw_UPratio(context);
+}
+
+void choose_scale(Context& context, bool linear) {
+    context.rs.LinearView = linear;
+    if (!linear) context.forms.frm2_UP.lblMaxCps2.visible = false;
+    if (!linear || context.rs.MaxCps != 0) draw_UP(context);
+}
+
+// A zoom bar at v shows the 100 / (101 - v)-th part of the full scale.
+void scroll_signals(Context& context) {
+    context.rs.YMaxEntry = context.rs.FullMax / (100.0 / (101 - context.forms.frm2_UP.VScroll1.value));
+    draw_UP(context);
+}
+
+void scroll_ratios(Context& context) {
+    RunState& rs = context.rs;
+    if (!all_limits_set(rs)) return;
+    rs.RatioScale = context.forms.frm2_UP.VScroll3.value;
+    draw_UPratio(context);
+}
+
+// How many slices make one point. Outliers are marked slice by slice: pooled points bring them back.
+void scroll_pool(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    rs.PlotPool = form.VScroll2.value;
+    if (all_limits_set(rs)) {
+        form.lblFusion.text = std::to_string(rs.PlotPool);
+        if (rs.PlotPool >= 2) {
+            restore_rejected(rs, form);
+            form.lblReject.visible = form.lblOM.visible = false;
+        }
+        draw_XY(context);
+        draw_UPratio(context);
+    }
+    rs.AspectFix = false;
+}
+
+bool test_limit_refused(Context& context) {
+    Frm2UP& form = context.forms.frm2_UP;
+    if (Val(form.txtSD.text) >= 1) return false;
+    context.os.warn("The s.d. value at the out lier test is too low, type a numer between 1 and 5.");
+    form.set_focus(form.txtSD);
+    return true;
+}
+
+void enter_upper_limit(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    if (take_scale_entry(context, form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp, rs.YMaxEntry)) draw_UP(context);
+}
+
+void show_averages(Context& context) {
+    RunState& rs = context.rs;
+    if (rs.SelN.val() == 0) return;
+    for (int i = 1; i <= rs.nIso; ++i) rs.nData(i) = rs.SelN.val();
+    ComputeBlank(rs, context.os);
+    ComputeSelStats(rs, context.os);
+    ComputeConcentrations(rs, context.os);
+    context.shell.close(context.forms.frm_AverConc);
+    context.shell.open(context.forms.frm_AverConc);
+}
+
+void cmdBack(Context& context) {
+    RunState& rs = context.rs;
+    rs.WindowWasNormal = 1;
+    context.shell.open(context.forms.frm1_Settings);
+    rs.FullMax = rs.FullMax2 = rs.MaxCps = rs.MaxRatio = 0;
+    rs.YMaxEntry = rs.YMaxEntry2 = 0;
+    context.shell.close(context.forms.frm2_UP);
+    rs.CameBack = 1;
+}
+
+void connect_plots(Program& program) {
+    Context& context = program.context();
+    Frm2UP& form = context.forms.frm2_UP;
+    for (const int plot : {1, 2}) {
+        const std::string picture = "pict" + std::to_string(plot);
+        program.on(form, picture, EventKind::press, [&context, &form, plot](const Event& event) {
+            OnPlotDown(context, form, plot, event.button, event.shift, event.x, event.y);
+        });
+        program.on(form, picture, EventKind::release, [&context, &form](const Event&) { OnPlotUp(context, form); });
+    }
+    for (const char* picture : {"pict1", "pict2", "pict3"})
+        program.on(form, picture, EventKind::resize, [&context, &form](const Event&) {
+            lay_out_up_window(context);
+            positions_from_slices(context.rs, form);
+            draw_UP(context);
+        });
+    form.VScroll1.changed = [&context] { scroll_signals(context); };
+    form.VScroll2.changed = [&context] { scroll_pool(context); };
+    form.VScroll3.changed = [&context] { scroll_ratios(context); };
+    form.optLi.changed = [&context] { choose_scale(context, true); };
+    form.optLo.changed = [&context] { choose_scale(context, false); };
+    program.on(form, "lblBeam_St", EventKind::click, [&context](const Event&) { OnBeamStartLabel(context.rs); });
+    program.on(form, "lblMaxCps", EventKind::click,
+               [&form](const Event&) { open_scale_entry(form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp); });
+    program.on(form, "txtYMaxInp", EventKind::enter, [&context](const Event&) { enter_upper_limit(context); });
+}
+
+void connect_refinement(Program& program) {
+    RunState& rs = program.state();
+    Frm2UP& form = program.context().forms.frm2_UP;
+    form.Combo7.changed = [&rs, &form] { rs.setBzzPlot = form.Combo7.value; };
+    form.Combo8.changed = [&rs, &form] { rs.setBzzMethod = form.Combo8.value; };
+    form.chkBzzPrompt.changed = [&rs, &form] { rs.setBzz_Prompt = form.chkBzzPrompt.value; };
+}
+
+}  // namespace
+
+void connect_up_window(Program& program) {
+    Context& context = program.context();
+    Frm2UP& form = context.forms.frm2_UP;
+    program.shell().set_hooks(form,
+                              {[&context] { open_up_window(context); }, [&context] { activate_up_window(context); }});
+    connect_plots(program);
+    connect_refinement(program);
+
+    const auto click = [&](const std::string& control, void (*handler)(Context&)) {
+        program.on(form, control, EventKind::click, [&context, handler](const Event&) { handler(context); });
+    };
+    for (int k = 0; k < ratio_count; ++k) form.ratio_row(k).box.changed = [&context] { draw_UPratio(context); };
+    form.chkLinReg.changed = [&context] { draw_UPratio(context); };
+    form.chkHgCorr.changed = [&context] { correct_mercury(context); };
+    form.chkShowSD.changed = [&context] { show_outliers(context); };
+    for (const int diagram : {0, 1})
+        form.optConcord(diagram).changed = [&context, diagram] {
+            context.rs.setConcordia = diagram;
+            draw_XY(context);
+        };
+    program.on(form, "txtSD", EventKind::leave, [&context](const Event&) { test_limit_refused(context); });
+    program.on(form, "txtSD", EventKind::enter, [&context](const Event&) {
+        if (!test_limit_refused(context)) draw_UPratio(context);
+    });
+    click("cmdReject", cmdReject);
+    click("Command1", [](Context& c) { c.rs.AspectFix = true; });
+    click("cmdCopyHead", copy_to_clpb);
+    click("cmdCopyMas", copy_to_clpb);
+    click("cmdCopy", [](Context& c) {
+        c.rs.NoHead = true;
+        copy_to_clpb(c);
+    });
+    click("cmdApp", [](Context& c) {
+        c.rs.AppendSummary = true;
+        copy_to_clpb(c);
+    });
+    click("cmdCopySel", copy_selected_slices);
+    click("cmdNext", LeaveTimeSelection);
+    click("cmdBack", cmdBack);
+    click("cmdNewFile", choose_next_file);
+    click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
+    for (const char* later : {"cmdSett", "cmdZizeges", "cmdAccept", "cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd",
+                              "cmdOpenSeq", "cmdShowTab", "cmdPlot", "cmdInterpolation"})
+        click(later, [](Context& c) { say_not_yet(c.os); });
+    for (const char* place : {"", "pictRightSide"})
+        program.on(form, place, EventKind::dblclick, [&context](const Event&) { show_averages(context); });
+    program.on(form, "", EventKind::resize, [&context](const Event&) { resize_up_window(context); });
+}
+
+}  // namespace kolvar

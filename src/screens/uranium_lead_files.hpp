@@ -1,0 +1,19 @@
+// What follows the load of a data file on the U/Pb and FLEX paths: are the isotopes there, which Hg is used, the
+// screen.
+#pragma once
+
+#include "ui/context.hpp"
+
+namespace kolvar {
+
+// True when a column that every ratio needs is missing; frm_Missing_UPb was opened then.
+bool refused_for_missing_isotopes(Context& context);
+
+// After a load: the report of missing isotopes, the question about several Hg isotopes, or frm2_UP on the new data.
+// `from` is the window that the file was chosen in; it closes.
+void go_on_with_new_file(Context& context, Form& from);
+
+// The dialog of frm2_UP for the next file.
+void choose_next_file(Context& context);
+
+}  // namespace kolvar

@@ -1,0 +1,146 @@
+#include "upb/regression.hpp"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "core/numbers.hpp"
+#include "upb/ratio_fields.hpp"
+
+namespace kolvar {
+
+namespace {
+
+constexpr double sentinel = 1000000000;  // above every ratio
+
+double tzero_value(const RunState& rs, const LineFit& line, double former) {
+    const double kind = rs.setTzero.val();
+    if (kind == 0) return line.intercept + rs.SelLow.val() * line.slope;
+    if (kind == 1) return line.intercept + rs.BeamStart * line.slope;
+    if (kind == 2) return line.intercept + (rs.BeamStart + rs.setDelay.val()) * line.slope;
+    return former;
+}
+
+// Scatter of the counted slices about the line, with n - 1.
+double residual_sd(const RunState& rs, const RatioFields& ratio) {
+    double sum = 0;
+    for (int t = rs.SelLow.val(); t <= rs.SelUpp.val(); ++t) {
+        if (!counted(rs, t)) continue;
+        const double off = (rs.*ratio.slices)(t) - (rs.*ratio.intercept + t * (rs.*ratio.slope));
+        sum += off * off;
+    }
+    return root(quotient(sum, rs.SelNGood - 1));
+}
+
+// The values that the middle of the selection is found among, at the places of the slices: the smallest first. While
+// outliers are rejected their places keep what stood there before, and the smallest of all values fill the others.
+void sort_ratios(RunState& rs, const Table1<double>& ratio) {
+    const int low = rs.SelLow.val();
+    const int upp = rs.SelUpp.val();
+    bool plain = true;  // sorting gives the same as taking the smallest again and again
+    for (int t = low; t <= upp; ++t) {
+        rs.MedianWork(t) = ratio(t);
+        if (!(ratio(t) < sentinel) || rs.RejFlag(t) == 1) plain = false;
+    }
+    if (plain) {
+        for (int t = low; t <= upp; ++t) rs.MedianSorted(t) = rs.MedianWork(t);
+        const auto sorted = rs.MedianSorted.range(low, upp);
+        std::sort(sorted.begin(), sorted.end());
+        for (int t = low; t <= upp; ++t) rs.MedianWork(t) = sentinel;
+        return;
+    }
+    int smallest = low;
+    for (int i = low; i <= upp; ++i) {
+        if (rs.RejFlag(i) == 1) continue;
+        rs.MedianSorted(i) = sentinel;
+        for (int j = low; j <= upp; ++j) {
+            if (!(rs.MedianWork(j) < rs.MedianSorted(i))) continue;
+            rs.MedianSorted(i) = rs.MedianWork(j);
+            smallest = j;
+        }
+        rs.MedianWork(smallest) = sentinel;
+    }
+}
+
+}  // namespace
+
+LineFit fit_line(std::span<const double> values, std::span<const int> flags, int first, double n) {
+    double sx = 0;
+    double sxx = 0;
+    double sy = 0;
+    double syy = 0;
+    double sxy = 0;
+    for (std::size_t k = 0; k < values.size(); ++k) {
+        if (flags[k] >= 1) continue;
+        const double x = first + static_cast<double>(k);
+        const double y = values[k];
+        sx += x;
+        sxx += x * x;
+        sy += y;
+        syy += y * y;
+        sxy += x * y;
+    }
+    const double spread_x = n * sxx - sx * sx;
+    const double together = n * sxy - sy * sx;
+    LineFit line;
+    line.slope = quotient(together, spread_x);
+    line.intercept = quotient(sy - line.slope * sx, n);
+    line.correlation = quotient(together, root(spread_x * (n * syy - sy * sy)));
+    return line;
+}
+
+double shown_error(const RunState& rs, double sd, double value, double former) {
+    const double kind = rs.setErr.val();
+    const double times = rs.setErr_times.val();
+    const auto relative = [&] { return quotient(sd, value) * 100; };
+    if (kind == 0) return times * sd;
+    if (kind == 1) return times * relative();
+    if (kind == 2) return quotient(times * sd, root(rs.SelNGood - 1));
+    if (kind == 3) return quotient(times * relative(), root(rs.SelNGood - 1));
+    return former;
+}
+
+void Lin_Regr_UP(Context& context) {
+    RunState& rs = context.rs;
+    const Running running(rs, "Lin_Regr_UP");
+    if (rs.SelN.val() < 3) return;
+    const int low = rs.SelLow.val();
+    const int upp = rs.SelUpp.val();
+    Frm2UP& form = context.forms.frm2_UP;
+    for (int k = 0; k < ratio_count; ++k) {
+        const RatioFields& ratio = ratio_fields()[static_cast<std::size_t>(k)];
+        if (!ratio.measured(rs)) continue;
+        const LineFit line = fit_line((rs.*ratio.slices).range(low, upp), rs.RejFlag.range(low, upp), low, rs.SelNGood);
+        rs.*ratio.slope = line.slope;
+        rs.*ratio.intercept = line.intercept;
+        rs.*ratio.correlation = line.correlation;
+        rs.*ratio.tzero = tzero_value(rs, line, rs.*ratio.tzero);
+        const Frm2UP::RatioRow row = form.ratio_row(k);
+        row.slope.text = Format(line.slope, "0.000");
+        row.correlation.text = Format(line.correlation, "0.000");
+    }
+    // Also of a ratio that isn't measured: its residuals lie about the line of an earlier file.
+    for (const RatioFields& ratio : ratio_fields()) rs.*ratio.residual_sd = residual_sd(rs, ratio);
+    for (const RatioFields& ratio : ratio_fields())
+        if (ratio.measured(rs))
+            rs.*ratio.tzero_error = shown_error(rs, rs.*ratio.residual_sd, rs.*ratio.tzero, rs.*ratio.tzero_error);
+    for (int k = 0; k < ratio_count; ++k) {
+        const RatioFields& ratio = ratio_fields()[static_cast<std::size_t>(k)];
+        if (ratio.measured(rs))
+            form.ratio_row(k).tzero.text =
+                Format(rs.*ratio.tzero, "0.000") + "  \xC2\xB1 " + Format(rs.*ratio.tzero_error, "0.000");
+    }
+}
+
+void median_UP(RunState& rs) {
+    const Running running(rs, "median_UP");
+    const int half = rs.SelN.val() / 2;
+    const int low = rs.SelLow.val();
+    for (const RatioFields& ratio : ratio_fields()) {
+        sort_ratios(rs, rs.*ratio.slices);
+        const bool even = rs.SelN.val() % 2 == 0;
+        rs.*ratio.median =
+            even ? (rs.MedianSorted(low + half - 1) + rs.MedianSorted(low + half)) / 2 : rs.MedianSorted(low + half);
+    }
+}
+
+}  // namespace kolvar
