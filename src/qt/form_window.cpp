@@ -58,9 +58,16 @@ void FormWindow::make_menus() {
         }
         actions_[control]->setObjectName(shown(control->address()));
     }
+    const Control* former = nullptr;
     for (Control* control : form_.controls) {
         if (control->kind != ControlKind::menu_entry || control->parent == nullptr) continue;
-        if (QAction* const title = action(*control->parent)) title->menu()->addAction(action(*control));
+        QAction* const title = action(*control->parent);
+        if (title == nullptr) continue;
+        // A number that is left out stands for a line between two entries.
+        if (former != nullptr && former->name == control->name && control->index > former->index + 1)
+            title->menu()->addSeparator();
+        title->menu()->addAction(action(*control));
+        former = control;
     }
 }
 
