@@ -25,7 +25,7 @@ TEST_F(SetIsWindow, OfColumnsWithOneNameTheLastIsTheStandard) {
     EXPECT_EQ(rs().IS1col, Limit(20));
 }
 
-TEST_F(SetIsWindow, NewStandardsWaitForTheNextAssignment) {
+TEST_F(SetIsWindow, AppliedStandardsAreNotSavedAndWaitForTheNextAssignment) {
     program->start(0);
     click(forms().frm1_Settings, "cmdOK");
     open();
@@ -36,13 +36,15 @@ TEST_F(SetIsWindow, NewStandardsWaitForTheNextAssignment) {
     choose(form(), "comboIso2", "Ca43");
     type(form(), "txtMass2", "140");
     const int former = rs().IsoISidx(25);
+    const std::string former_file = bytes_of(kit("Kolvar-default-h.set"));
     click(form(), "cmdApply");
     EXPECT_EQ(rs().IS1name, "Al27");
     EXPECT_EQ(rs().IS1col, Limit(3));
     EXPECT_EQ(rs().IS1conc, Value(76000));
     EXPECT_EQ(rs().IS2col, Limit(5));
     EXPECT_EQ(rs().IsoISidx(25), former);
-    EXPECT_FALSE(std::filesystem::exists(folder.path("out.set")));
+    EXPECT_EQ(bytes_of(kit("Kolvar-default-h.set")), former_file);  // nothing is saved
+    EXPECT_TRUE(os.dialogs.empty());
     // The panel behind shows them, and its next step assigns: up to La139 the first, from Ce140 on the second.
     EXPECT_EQ(forms().frm1_Settings.comboIso.text, "Al27");
     EXPECT_EQ(forms().frm1_Settings.txtISppm.text, "76000");
