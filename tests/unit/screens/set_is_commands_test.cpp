@@ -18,6 +18,25 @@ TEST_F(SetIsWindow, ABlankFirstStandardIsColumnZeroSoThatTheNextStepAsksForOne) 
     EXPECT_EQ(only_box(), "Choose an internal standard from the list of isotopes.");
 }
 
+TEST_F(SetIsWindow, SourcesOfBlankAndDwellTimesAndTheScaleCountAtOnce) {
+    open();
+    click(form(), "optBLK_IS", 1);
+    click(form(), "optDWE", 0);
+    click(form(), "optLin", 0);
+    click(form(), "cmdApply");
+    EXPECT_EQ(rs().BlankFromData, 0);
+    EXPECT_EQ(rs().DwellFromFile, 0);
+    EXPECT_TRUE(rs().LinearView);
+    open();
+    click(form(), "optBLK_IS", 0);
+    click(form(), "optDWE", 1);
+    click(form(), "optLin", 1);
+    click(form(), "cmdApply");
+    EXPECT_EQ(rs().BlankFromData, 1);
+    EXPECT_EQ(rs().DwellFromFile, 1);
+    EXPECT_FALSE(rs().LinearView);
+}
+
 TEST_F(SetIsWindow, OfColumnsWithOneNameTheLastIsTheStandard) {
     open();
     rs().IsoName(20) = "Si29";

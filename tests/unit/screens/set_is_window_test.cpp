@@ -258,6 +258,10 @@ TEST_F(SetIsWindow, TheWayToThePeriodicSystemTakesThePlaceOfTheRanges) {
     expect_by_mass(false);
     click(form(), "cmdShow");
     EXPECT_EQ(shown_windows(), (Names{"frm1_Settings", "frm_SetIS", "frm_Period"}));
+    click(form(), "cmdCancel");
+    rs().setPeriod = 0;  // as another settings file may say
+    open();
+    expect_by_mass(true);
 }
 
 TEST_F(SetIsWindow, PreferredRatiosAreThereForTheirPlotAlone) {
