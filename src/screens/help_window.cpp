@@ -1,6 +1,7 @@
 #include "screens/help_window.hpp"
 
 #include <array>
+#include <cmath>
 
 #include "core/files.hpp"
 #include "screens/screens.hpp"
@@ -41,7 +42,7 @@ void show_about(Context& context) {
     FrmHelp1& form = context.forms.frmHelp1;
     form.lblVersion.text = context.forms.frm1_Settings.lblVersion.text;
     form.lblCitation.text = citation;
-    show(context, FrmHelp1::Face::about, 7200, 4500);
+    show(context, FrmHelp1::Face::about, 9600, 4200);
 }
 
 void visit_homepage(Platform& os) {
@@ -57,12 +58,12 @@ constexpr int strip_height = 330;  // twips below the plot, for the numbers of t
 // Height of a signal at a place of the time axis: gas blank, steep rise, slow decay, washout. The small teeth are those
 // of a counter, the same at every drawing.
 double sketched_signal(double place, int step, double blank, double peak) {
-    const double tooth = ((step * 37) % 23 - 11) / 11.0;
+    const double tooth = ((step * step * 31 + step * 17) % 29 - 14) / 14.0;
     if (place < beam_on) return blank + 0.012 * tooth;
     if (place < beam_on + 0.03) return blank + (peak - blank) * (place - beam_on) / 0.03;
     const double plateau = peak - 0.20 * (place - beam_on);
     if (place < beam_off) return plateau + 0.016 * tooth;
-    return blank + (plateau - blank) * (1 - (place - beam_off) / (1 - beam_off)) * 0.85;
+    return blank + (plateau - blank) * std::exp(-60 * (place - beam_off)) + 0.012 * tooth;
 }
 
 // In the colours of the time selection: what is selected stands on white, the blank on its tint.
@@ -72,7 +73,7 @@ void draw_cut_time(FrmHelp1& form) {
     const double width = picture.width, height = picture.height - strip_height;
     const auto at = [&](int limit) { return width * sketched_limits[static_cast<std::size_t>(limit - 1)]; };
     canvas.Clear();
-    canvas.FillRect(0, 0, width, picture.height, palette(15));
+    canvas.FillRect(0, 0, width, height, palette(15));
     canvas.FillRect(0, 0, at(3), height, pale_yellow);
     canvas.FillRect(at(4), 0, width, height, pale_yellow);
     canvas.FillRect(at(1), 0, at(2), height, pale_cyan);
@@ -94,7 +95,11 @@ void draw_cut_time(FrmHelp1& form) {
         for (int step = 1; step <= steps; ++step)
             canvas.Line(width * (step - 1) / steps, level(step - 1), width * step / steps, level(step), curve.colour);
     }
-    canvas.Line(0, height, width, height, palette(8));
+    const double right = width - 15;
+    canvas.Line(0, height, right, height, palette(8));
+    canvas.Line(0, 0, right, 0, palette(8));
+    canvas.Line(0, 0, 0, height, palette(8));
+    canvas.Line(right, 0, right, height, palette(8));
     form.lblBlankHere.move_to(at(1) + 90, 60);
     form.lblSignalHere.move_to(at(3) + 90, 60);
 }
@@ -117,7 +122,7 @@ void show_cut_time(Context& context) {
     for (int text = 1; text <= 8; ++text) form.lblCutText(text).text = texts[static_cast<std::size_t>(text - 1)];
     for (int number = 1; number <= 4; ++number) form.lblCutNumber(number).text = std::to_string(number);
     draw_cut_time(form);
-    show(context, FrmHelp1::Face::cut_time, 10200, 9300);
+    show(context, FrmHelp1::Face::cut_time, 10200, 8700);
 }
 
 void choose_help(Context& context, int entry) {

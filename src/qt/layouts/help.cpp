@@ -1,4 +1,5 @@
 // Help: the three faces lie in one column, one of them in view.
+#include "qt/canvas_view.hpp"
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
 #include "qt/text.hpp"
@@ -38,6 +39,7 @@ void lay_out_cut_text(FormWindow& window, const FrmHelp1& f) {
         wrapping(window, f.lblCutText(line));
         grid->addWidget(window.of(f.lblCutText(line)), line, numbered ? 1 : 0, 1, numbered ? 1 : 2);
     }
+    grid->setRowStretch(f.lblCutText.last() + 1, 1);
 }
 
 }  // namespace
@@ -45,7 +47,10 @@ void lay_out_cut_text(FormWindow& window, const FrmHelp1& f) {
 void lay_out_help(FormWindow& window, const FrmHelp1& f) {
     lay_out_about(window, f);
     lay_out_cut_text(window, f);
-    window.of(f.pictCutTime)->setFixedSize(pixels(f.pictCutTime.width), pixels(f.pictCutTime.height));
+    auto* const sketch = static_cast<CanvasView*>(window.of(f.pictCutTime));
+    const QColor body = window.palette().color(QPalette::Window);
+    sketch->ground = rgb(body.red(), body.green(), body.blue());  // the strip with the numbers is no part of the plot
+    sketch->setFixedSize(pixels(f.pictCutTime.width), pixels(f.pictCutTime.height));
     for (const Control* mark : std::initializer_list<const Control*>{&f.lblBlankHere, &f.lblSignalHere})
         bold(window, *mark);
 
@@ -55,7 +60,7 @@ void lay_out_help(FormWindow& window, const FrmHelp1& f) {
     whole->addWidget(window.of(f.txt1), 1);
     whole->addWidget(window.of(f.pictAbout), 1);
     whole->addWidget(window.of(f.pictCutTime), 0, Qt::AlignHCenter);
-    whole->addWidget(window.of(f.pictCutText));
+    whole->addWidget(window.of(f.pictCutText), 1);
     whole->addLayout(button_row(window, {}, {&f.cmdClose}));
     window.set_default_buttons({&f.cmdClose});
     window.set_escape_buttons({&f.cmdClose});

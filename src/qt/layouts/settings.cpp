@@ -93,7 +93,7 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
 
     window.body()->setLayout(column_of(window, {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}));
     window.body()->setMinimumSize(680, 420);  // also for the small panels
-    window.of(f.lblVersion)->setContentsMargins(8, 0, 8, 0);
+    window.of(f.lblVersion)->setContentsMargins(8, 3, 8, 3);
     window.menuBar()->setCornerWidget(window.of(f.lblVersion));
     window.set_default_buttons({&f.cmdNext, &f.cmdOK, &f.cmdOK1, &f.Command9});
     window.set_escape_buttons({&f.cmdBack});
