@@ -8,7 +8,7 @@ cd "$(dirname "$0")"
 need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}"
 echo "== Building the release in build/"
 cmake --preset release -DKOLVAR_TESTS=OFF >build.log 2>&1 || { cat build.log; exit 1; }
-cmake --build build --target kolvar kolvage kolvflex kolvar_scenario start_kit >build.log 2>&1 || { tail -n 60 build.log; exit 1; }
+cmake --build build --target kolvar kolvage kolvflex kolvar_scenario start_kit help_documents >build.log 2>&1 || { tail -n 60 build.log; exit 1; }
 rm -f build.log
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

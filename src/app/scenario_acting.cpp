@@ -20,6 +20,7 @@
 #include "core/inspector.hpp"
 #include "qt/canvas_view.hpp"
 #include "qt/folder_view.hpp"
+#include "qt/form_window.hpp"
 #include "qt/grid_view.hpp"
 #include "qt/text.hpp"
 #include "qt/widgets.hpp"
@@ -448,12 +449,13 @@ void resize(Session& session, Words& words) {
     Form& form = session.window(name);
     must_be_shown(form, "a size for " + name);
     const Event event = sized(event_of(form, EventKind::resize));
-    QWidget* const shown = session.desktop->window(form);
+    auto* const shown = qobject_cast<FormWindow*>(session.desktop->window(form));
+    const int menu = shown != nullptr ? shown->menu_height() : 0;
     const QSize size(static_cast<int>(std::lround(width / twips_per_pixel)),
-                     static_cast<int>(std::lround(height / twips_per_pixel)));
+                     static_cast<int>(std::lround(height / twips_per_pixel)) + menu);
     // Sizes between two pixels, or smaller than the widgets of the window need, can't be carried by the screen.
     const bool carried = shown != nullptr && size.width() * twips_per_pixel == width &&
-                         size.height() * twips_per_pixel == height && shown->size() != size &&
+                         (size.height() - menu) * twips_per_pixel == height && shown->size() != size &&
                          size.expandedTo(shown->minimumSize()) == size;
     if (carried) {
         carry_out(session, event, [&] { shown->resize(size); });

@@ -39,6 +39,7 @@ QWidget* new_widget(Control& control, QWidget* parent) {
             return option;
         }
         case ControlKind::entry:
+            if (control.multiline) return new TextView(parent);
             return new EntryView(parent);
         case ControlKind::list: {
             auto* list = new QComboBox(parent);
@@ -107,6 +108,9 @@ void FormWindow::connect_widget(Control& control, QWidget* widget) {
         connect(entry, &QLineEdit::textEdited, this, typed);
         entry->on_enter = reporter(EventKind::enter);
         entry->on_leave = reporter(EventKind::leave);
+    } else if (auto* text = dynamic_cast<TextView*>(widget)) {
+        connect(text, &QPlainTextEdit::textChanged, this, [typed, text] { typed(text->toPlainText()); });
+        text->on_leave = reporter(EventKind::leave);
     } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
         connect(list, &QComboBox::activated, this, [this, &control](int item) {
             report(control, EventKind::choose, [&](Event& event) { event.value = item; });
@@ -199,6 +203,11 @@ void FormWindow::sync_text(const Control& control, QWidget* widget) {
         const QString text = shown(control.text);
         if (entry->text() != text) entry->setText(text);
         if (entry->isReadOnly() != control.locked) entry->setReadOnly(control.locked);
+    } else if (auto* lines = dynamic_cast<TextView*>(widget)) {
+        QString text = shown(control.text);  // whatever ends its lines, the widget knows one line end only
+        text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+        if (lines->toPlainText() != text) lines->setPlainText(text);
+        if (lines->isReadOnly() != control.locked) lines->setReadOnly(control.locked);
     } else if (auto* frame = qobject_cast<QGroupBox*>(widget)) {
         const QString text = shown_caption(control.text);
         if (frame->title() != text) frame->setTitle(text);

@@ -58,9 +58,16 @@ void FormWindow::make_menus() {
         }
         actions_[control]->setObjectName(shown(control->address()));
     }
+    const Control* former = nullptr;
     for (Control* control : form_.controls) {
         if (control->kind != ControlKind::menu_entry || control->parent == nullptr) continue;
-        if (QAction* const title = action(*control->parent)) title->menu()->addAction(action(*control));
+        QAction* const title = action(*control->parent);
+        if (title == nullptr) continue;
+        // A number that is left out stands for a line between two entries.
+        if (former != nullptr && former->name == control->name && control->index > former->index + 1)
+            title->menu()->addSeparator();
+        title->menu()->addAction(action(*control));
+        former = control;
     }
 }
 
@@ -90,13 +97,17 @@ void FormWindow::report(const Control& control, EventKind kind, const std::funct
 void FormWindow::show_first() {
     const QSize hint = sizeHint();
     form_.width = form_.width > 0 ? form_.width : hint.width() * twips_per_pixel;
-    form_.height = form_.height > 0 ? form_.height : hint.height() * twips_per_pixel;
+    form_.height = form_.height > 0 ? form_.height : (hint.height() - menu_height()) * twips_per_pixel;
     follow_size();
     syncing_ = true;
     show();
     syncing_ = false;
     form_.width = known_width_ = width() * twips_per_pixel;
-    form_.height = known_height_ = height() * twips_per_pixel;
+    form_.height = known_height_ = (height() - menu_height()) * twips_per_pixel;
+}
+
+int FormWindow::menu_height() const {
+    return menuWidget() == nullptr || menuBar()->isNativeMenuBar() ? 0 : menuBar()->sizeHint().height();
 }
 
 // A handler may have given the form another size.
@@ -106,7 +117,7 @@ void FormWindow::follow_size() {
     known_width_ = form_.width;
     known_height_ = form_.height;
     syncing_ = true;
-    resize(pixels(known_width_), pixels(known_height_));
+    resize(pixels(known_width_), pixels(known_height_) + menu_height());
     syncing_ = false;
 }
 
@@ -114,9 +125,10 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (arranger_) arranger_();
     if (syncing_ || !isVisible() || isMinimized()) return;
-    if (width() == pixels(known_width_) && height() == pixels(known_height_)) return;
+    const int inside = height() - menu_height();
+    if (width() == pixels(known_width_) && inside == pixels(known_height_)) return;
     known_width_ = width() * twips_per_pixel;
-    known_height_ = height() * twips_per_pixel;
+    known_height_ = inside * twips_per_pixel;
     Event resized;
     resized.kind = EventKind::resize;
     resized.window = form_.name;

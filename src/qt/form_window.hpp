@@ -40,6 +40,8 @@ public:
     void sync();
     // Gives the window its first size, shows it, and notes the size in the form.
     void show_first();
+    // The size of a form is that of the window below its menu bar, which takes so many logical pixels.
+    [[nodiscard]] int menu_height() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

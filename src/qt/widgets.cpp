@@ -166,6 +166,11 @@ void EntryView::focusOutEvent(QFocusEvent* event) {
     if (left_by_user(*event) && on_leave) on_leave();
 }
 
+void TextView::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (left_by_user(*event) && on_leave) on_leave();
+}
+
 void PanelView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && on_dblclick) on_dblclick();
 }

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <functional>
 
@@ -84,6 +85,17 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+// An entry of several lines.
+class TextView : public QPlainTextEdit {
+public:
+    explicit TextView(QWidget* parent) : QPlainTextEdit(parent) { setTabChangesFocus(true); }
+
+    std::function<void()> on_leave;
+
+protected:
     void focusOutEvent(QFocusEvent* event) override;
 };
 

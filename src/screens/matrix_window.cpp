@@ -1,7 +1,7 @@
 // Step 3: the handlers of the rejection matrix and the ways out of it.
 #include "core/files.hpp"
+#include "screens/help_window.hpp"
 #include "screens/screens.hpp"
-#include "screens/settings_window.hpp"
 #include "settings/reference_files.hpp"
 #include "trace/concentrations.hpp"
 #include "trace/matrix.hpp"

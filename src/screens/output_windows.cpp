@@ -1,7 +1,7 @@
 // Step 4: the handlers of the output window and of the preview.
+#include "screens/help_window.hpp"
 #include "screens/screens.hpp"
 #include "screens/settings_panels.hpp"
-#include "screens/settings_window.hpp"
 #include "trace/output.hpp"
 #include "trace/quick_results.hpp"
 

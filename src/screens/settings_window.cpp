@@ -180,11 +180,6 @@ void connect_choices(Program& program) {
 
 void say_not_yet(Platform& os) { os.warn("This function is not part of this version yet.", "KOLVAR"); }
 
-void open_help(Context& context, const std::string& document) {
-    const std::string path = join_path(context.rs.AppPath1, document);
-    if (!context.os.open_document(path)) context.os.warn("The help document was not found:\n" + path, "KOLVAR");
-}
-
 void connect_settings_window(Program& program) {
     Context& context = program.context();
     Frm1Settings& form = context.forms.frm1_Settings;

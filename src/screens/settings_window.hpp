@@ -12,7 +12,4 @@ void back_to_file_choice(Context& context);
 // What a control does whose window or calculation this version does not hold.
 void say_not_yet(Platform& os);
 
-// Hands a help document of the program's folder to the system; a box tells which file is missing.
-void open_help(Context& context, const std::string& document);
-
 }  // namespace kolvar

@@ -1,6 +1,7 @@
 // Step 1: the file choice in one column of groups, the internal standards beside it.
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMenuBar>
 
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
@@ -92,6 +93,8 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
 
     window.body()->setLayout(column_of(window, {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}));
     window.body()->setMinimumSize(680, 420);  // also for the small panels
+    window.of(f.lblVersion)->setContentsMargins(8, 3, 8, 3);
+    window.menuBar()->setCornerWidget(window.of(f.lblVersion));
     window.set_default_buttons({&f.cmdNext, &f.cmdOK, &f.cmdOK1, &f.Command9});
     window.set_escape_buttons({&f.cmdBack});
     window.add_shortcut(f.cmdOK, "Alt+O");

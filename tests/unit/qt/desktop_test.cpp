@@ -150,7 +150,11 @@ TEST_F(DesktopTest, PlacedControlsStandWhereTheModelSays) {
 
 TEST_F(DesktopTest, WindowTakesItsSizeFromTheFormOrTellsIt) {
     show(forms.frm2_Time);
-    EXPECT_EQ(window(forms.frm2_Time).size(), QSize(1100, 680));
+    // The menu bar comes on top of it.
+    const QMainWindow& time = *qobject_cast<QMainWindow*>(desktop.window(forms.frm2_Time));
+    EXPECT_EQ(time.centralWidget()->size(), QSize(1100, 680));
+    EXPECT_EQ(time.height(), 680 + time.menuBar()->height());
+    EXPECT_EQ(forms.frm2_Time.height, 10200);
     EXPECT_EQ(forms.frm2_Time.width, 16500);
     show(forms.frm_Omit);
     EXPECT_EQ(forms.frm_Omit.width, window(forms.frm_Omit).width() * 15);
@@ -192,10 +196,32 @@ TEST_F(DesktopTest, MenusShowTheirEntriesInOrder) {
     QStringList titles, entries;
     for (const QAction* menu : frame->menuBar()->actions())
         if (menu->isVisible()) titles << menu->text();
-    EXPECT_EQ(titles, QStringList({"&File", "&Settings"}));
+    EXPECT_EQ(titles, QStringList({"&File", "&Settings", "&Help"}));
     for (const QAction* entry : frame->menuBar()->actions().first()->menu()->actions()) entries << entry->text();
     EXPECT_EQ(entries, QStringList({"Open Data File", "Open Standard Composition File",
                                     "Open Standard Measurement File", "Exit"}));
+    entries.clear();  // a line parts what leads out of the program from its documents
+    for (const QAction* entry : frame->menuBar()->actions().last()->menu()->actions())
+        entries << (entry->isSeparator() ? QStringLiteral("-") : entry->text());
+    EXPECT_EQ(entries,
+              QStringList({"Most important points ...", "Flow chart", "Introduction (article, MAC)",
+                           "Format of the files", "Explanation to the example files", "Equations", "Exported results",
+                           "-", "Visit Kolvar homepage for latest version and help", "About"}));
+}
+
+TEST_F(DesktopTest, LinesOfAnEntryOfSeveralLinesStandInTheWidgetAndComeBack) {
+    Entry& text = forms.frm_SetIS.txtComments;
+    text.text = "one\r\ntwo\rthree";
+    show(forms.frm_SetIS);
+    auto& view = widget<TextView>(text);
+    EXPECT_EQ(view.toPlainText(), QStringLiteral("one\ntwo\nthree"));
+    EXPECT_FALSE(view.isReadOnly());
+    EXPECT_EQ(text.text, "one\r\ntwo\rthree");  // showing is no typing
+    view.setPlainText(QStringLiteral("four\nfive"));
+    EXPECT_EQ(text.text, "four\nfive");
+    text.locked = true;
+    desktop.sync();
+    EXPECT_TRUE(view.isReadOnly());
 }
 
 TEST_F(DesktopTest, GridShowsItsCellsAndHeaders) {

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -202,13 +203,14 @@ TEST_F(UserEvents, NoProgramStaysWithoutAWindow) {
 TEST_F(UserEvents, UsersNewSizeIsToldInTwips) {
     catch_events(forms.frm2_Time, "", EventKind::resize);
     show(forms.frm2_Time);
-    window(forms.frm2_Time).resize(1200, 700);
+    const int menu = qobject_cast<QMainWindow*>(desktop.window(forms.frm2_Time))->menuBar()->height();
+    window(forms.frm2_Time).resize(1200, 700 + menu);
     QApplication::processEvents();
     ASSERT_EQ(caught.size(), 1U);
     EXPECT_EQ(caught[0].x, 18000);
     EXPECT_EQ(caught[0].y, 10500);
     EXPECT_EQ(forms.frm2_Time.width, 18000);
-    window(forms.frm2_Time).resize(1200, 700);
+    window(forms.frm2_Time).resize(1200, 700 + menu);
     QApplication::processEvents();
     EXPECT_EQ(caught.size(), 1U);
 }
