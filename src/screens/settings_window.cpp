@@ -7,8 +7,10 @@
 #include "import/data_file.hpp"
 #include "screens/screens.hpp"
 #include "screens/set_is_window.hpp"
+#include "screens/uranium_lead_files.hpp"
 #include "screens/settings_panels.hpp"
 #include "screens/start_paths.hpp"
+#include "settings/default_file.hpp"
 #include "settings/reference_files.hpp"
 #include "settings/settings_file.hpp"
 #include "trace/matching.hpp"
@@ -144,8 +146,67 @@ void choose_File(Context& context) {
     RunState& rs = context.rs;
     if (!ChooseDataFile(context)) return;
     show_data_file(context);
-    if (rs.Method == 1 || rs.Method == 3) rs.BlankFromData = 1;
+    if (rs.Method != 1 && rs.Method != 3) return;
+    rs.BlankFromData = 1;
+    go_on_with_new_file(context, context.forms.frm1_Settings);
 }
+
+void cmdChooseUP(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    form.cmdIndividual.visible = form.cmdSequential.visible = false;
+    choose_File(context);
+}
+
+// One file after the other, without a list.
+void cmdIndividual(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    context.rs.SeqMode = false;
+    for (Control* control : std::initializer_list<Control*>{&form.cmdCreate, &form.cmdOpenMaster, &form.cmdSequential})
+        control->visible = false;
+    for (Control* control : std::initializer_list<Control*>{&form.cmdChooseUP, &form.lblUP, &form.cmdChooseSET,
+                                                            &form.cmdSet_1, &form.lblUPset})
+        control->visible = control->enabled = true;
+}
+
+// To the ratios of the file that is loaded; its selection is shown as the former one.
+void cmdOK1(Context& context) {
+    RunState& rs = context.rs;
+    rs.Method = 1;
+    rs.BlankFromData = 1;
+    rs.FormerLowX = rs.SelLowX;
+    rs.FormerUppX = rs.SelUppX;
+    rs.FormerLow = rs.SelLow;
+    rs.FormerUpp = rs.SelUpp;
+    rs.ShowFirst = "elso";
+    if (!refused_for_missing_isotopes(context)) context.shell.open(context.forms.frm2_UP);
+    context.shell.close(context.forms.frm1_Settings);
+}
+
+void Command9(Context& context) {
+    context.rs.Method = 3;
+    context.rs.BlankFromData = 1;
+    context.shell.open(context.forms.frm2_UP);
+    context.shell.close(context.forms.frm1_Settings);
+}
+
+void open_defaults(Context& context, const char* filter) {
+    RunState& rs = context.rs;
+    const int former_method = rs.Method;
+    rs.SetFilePath = context.os.open_file({filter, 2, "", rs.AppPath1});
+    if (rs.SetFilePath.empty()) return;
+    rs.SettingsPath = rs.SetFilePath;
+    rs.SettingsName = file_name(rs.SettingsPath);
+    ReadDefaults(rs, context.os, rs.SettingsPath);
+    context.forms.frm1_Settings.lblUPset.text = shown_name(rs.SettingsName);
+    if (rs.Method != former_method) context.shell.activate_again();
+}
+
+void cmdChooseSET(Context& context) {
+    open_defaults(context, "All Files (*.*)|*.*|Default Files (*.def)|*.def");
+}
+
+// Offers settings files, though what it reads is a default file.
+void Command6(Context& context) { open_defaults(context, "All Files (*.*)|*.*|Setting Files (*.set)|*.set"); }
 
 void load_settings_from_file(Context& context) {
     RunState& rs = context.rs;
@@ -203,8 +264,13 @@ void connect_settings_window(Program& program) {
     click("cmdDWEinfo", [](Context& c) { show_dwe_info(c.rs, c.os); });
     for (const char* leaving : {"cmdClose", "cmdExitUP", "cmdExitFLEX"})
         click(leaving, [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later : {"cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster", "Command6",
-                              "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
+    click("cmdIndividual", cmdIndividual);
+    click("cmdChooseUP", cmdChooseUP);
+    click("cmdChooseSET", cmdChooseSET);
+    click("Command6", Command6);
+    click("cmdOK1", cmdOK1);
+    click("Command9", Command9);
+    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster", "cmdSet_1", "cmdPaste1"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
     click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });
@@ -236,6 +302,7 @@ void connect_settings_window(Program& program) {
         }
     });
     program.on(form, "mnuDefault", EventKind::click, [&context](const Event& event) {
+        if (event.index == 0) return cmdChooseSET(context);
         if (event.index == 2) return context.shell.open(context.forms.frm_InputForm);
         say_not_yet(context.os);
     });
