@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -78,7 +79,7 @@ bool folder_exists(const std::string& path) {
     return is_name(name) && ::stat(name.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
-std::string read_bytes(const std::string& path) {
+std::string read_head(const std::string& path, std::size_t most) {
     const std::string name = native_path(path);
     if (!is_name(name)) fail(FaultKind::file_missing, path);
     // A pipe would keep the reader waiting for its other end; it is no table of a measurement.
@@ -89,10 +90,10 @@ std::string read_bytes(const std::string& path) {
     struct stat info {};
     if (::fstat(file.fd(), &info) != 0 || !S_ISREG(info.st_mode)) fail(FaultKind::file_unreadable, path);
     std::string out;
-    out.resize(static_cast<std::size_t>(info.st_size));
+    out.resize(std::min(most, static_cast<std::size_t>(info.st_size)));
     std::size_t held = 0;
-    for (;;) {
-        if (held == out.size()) out.resize(out.size() + 4096);
+    while (held < most) {
+        if (held == out.size()) out.resize(std::min(most, out.size() + 4096));
         const ssize_t done = ::read(file.fd(), out.data() + held, out.size() - held);
         if (done < 0 && errno == EINTR) continue;
         if (done < 0) fail(FaultKind::file_unreadable, path);
@@ -102,6 +103,8 @@ std::string read_bytes(const std::string& path) {
     out.resize(held);
     return out;
 }
+
+std::string read_bytes(const std::string& path) { return read_head(path, std::string::npos); }
 
 void replace_file(Platform& os, const std::string& path, std::string_view bytes) {
     const std::string shown = native_path(path);

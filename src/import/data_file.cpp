@@ -5,6 +5,7 @@
 #include "core/fault.hpp"
 #include "core/files.hpp"
 #include "core/numbers.hpp"
+#include "import/file_format.hpp"
 #include "import/table_reader.hpp"
 #include "trace/statistics.hpp"
 
@@ -15,16 +16,6 @@ constexpr const char* data_file_filter =
     "All Files (*.*)|*.*|Comma Delimited Files (*.csv)|*.csv|Perkin-Elmer Export Files (*.xl)|*.xl|"
     "Element 2 Export Files (*.txt)|*.xl|All Registered File Typ (*.csv, *.xl, *.txt)|*.csv; *.xl; *.txt";
 constexpr int all_registered = 5;
-
-// A line or column number of a profile; a key that was never read is 0.
-int profile_number(const Value& key) {
-    constexpr double far = 1e9;  // no file has so many lines, and sums of two such numbers still are whole numbers
-    return static_cast<int>(std::clamp(round_half_even(key.val()), -far, far));
-}
-
-TableProfile profile_of(char separator, const Value& head, const Value& data, const Value& first, bool skips_empty) {
-    return {separator, profile_number(head), profile_number(data), profile_number(first), skips_empty};
-}
 
 template <class Profile>
 void load(Context& context, const std::string& path, Profile&& profile) {
@@ -128,27 +119,35 @@ void ClearData(RunState& rs) {
 void LoadCSV(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadCSV");
-    load(context, path, [&] { return profile_of(',', rs.setCSVisoLINE, rs.setCSVdatLINE, rs.setCSVfirstCOL, false); });
+    load(context, path,
+         [&] { return profile_of(FileFormat::csv, rs.setCSVisoLINE, rs.setCSVdatLINE, rs.setCSVfirstCOL); });
 }
 
 void LoadTXT(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadTXT");
-    load(context, path, [&] { return profile_of('\t', rs.setTXTisoLINE, rs.setTXTdatLINE, rs.setTXTfirstCOL, true); });
+    load(context, path,
+         [&] { return profile_of(FileFormat::txt, rs.setTXTisoLINE, rs.setTXTdatLINE, rs.setTXTfirstCOL); });
 }
 
 void LoadXL(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadXL");
-    load(context, path, [&] { return profile_of(',', rs.setXLisoLINE, rs.setXLdatLINE, rs.setXLfirstCOL, true); });
+    load(context, path, [&] { return profile_of(FileFormat::xl, rs.setXLisoLINE, rs.setXLdatLINE, rs.setXLfirstCOL); });
 }
 
 void load_by_ending(Context& context) {
     const std::string path = context.rs.DataFilePath;
-    const std::string ending = last_three(path);
-    if (ending == "csv" || ending == "CSV") LoadCSV(context, path);
-    if (ending == "txt" || ending == "TXT") LoadTXT(context, path);
-    if (ending == ".xl" || ending == ".XL") LoadXL(context, path);
+    switch (format_of(path)) {
+        case FileFormat::csv:
+            return LoadCSV(context, path);
+        case FileFormat::txt:
+            return LoadTXT(context, path);
+        case FileFormat::xl:
+            return LoadXL(context, path);
+        case FileFormat::none:
+            return;
+    }
 }
 
 void SplitIsoNames(RunState& rs) {
