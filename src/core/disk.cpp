@@ -1,5 +1,6 @@
 // The part of files.hpp that talks to the operating system.
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -56,6 +57,19 @@ bool write_all(int fd, std::string_view bytes) {
         bytes.remove_prefix(static_cast<std::size_t>(done));
     }
     return true;
+}
+
+// Waits a moment for another program that appends to the same file.
+bool locked(int fd) {
+    constexpr int attempts = 200;
+    constexpr useconds_t pause = 10000;
+    for (int k = 0; k < attempts; ++k) {
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) return true;
+        if (errno != EWOULDBLOCK && errno != EINTR) return errno == ENOLCK || errno == EOPNOTSUPP;  // no locks here
+        ::usleep(pause);
+    }
+    errno = EACCES;
+    return false;
 }
 
 // A link is followed, so that the file behind it is replaced and not the link.
@@ -129,21 +143,25 @@ void replace_file(Platform& os, const std::string& path, std::string_view bytes)
 void append_file(Platform& os, const std::string& path, std::string_view bytes) {
     const std::string name = native_path(path);
     if (!is_name(name) || folder_exists(name)) fail(FaultKind::file_unwritable, path);
-    const bool existed = file_exists(name);
-    Handle file(name, O_WRONLY | O_CREAT | O_APPEND);
-    struct stat former {};
-    if (!file.is_open() || ::fstat(file.fd(), &former) != 0) fail(write_fault(), path);
-    const std::size_t room = os.room_on_disk(bytes.size());
-    const bool done = write_all(file.fd(), bytes.substr(0, room));
-    if (done && room == bytes.size()) {
-        if (!file.close()) fail(write_fault(), path);
-        return;
+    for (;;) {
+        const bool existed = file_exists(name);
+        Handle file(name, O_WRONLY | O_CREAT | O_APPEND);
+        struct stat former {};
+        // One program at a time: a write that has to be taken back takes no other program's with it.
+        if (!file.is_open() || !locked(file.fd()) || ::fstat(file.fd(), &former) != 0) fail(write_fault(), path);
+        if (former.st_nlink == 0) continue;  // taken away while this program waited
+        const std::size_t room = os.room_on_disk(bytes.size());
+        const bool done = write_all(file.fd(), bytes.substr(0, room));
+        if (done && room == bytes.size()) {
+            if (!file.close()) fail(write_fault(), path);
+            return;
+        }
+        // The file keeps whole lines: half a record at its end would spoil the next one too.
+        const FaultKind kind = done ? FaultKind::disk_full : write_fault();
+        const bool cut = ::ftruncate(file.fd(), former.st_size) == 0;
+        if (!existed && former.st_size == 0 && cut) ::unlink(name.c_str());
+        fail(kind, path);
     }
-    // The file keeps whole lines: half a record at its end would spoil the next one too.
-    const FaultKind kind = done ? FaultKind::disk_full : write_fault();
-    const bool cut = ::ftruncate(file.fd(), former.st_size) == 0;
-    if (!existed && cut) ::unlink(name.c_str());
-    fail(kind, path);
 }
 
 }  // namespace kolvar
