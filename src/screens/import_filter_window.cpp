@@ -61,6 +61,7 @@ void show_lines(Grid& grid, const std::vector<std::string>& lines, const TablePr
     const TableLines read = lines_read(lines, profile);
     const int cols = static_cast<int>(columns);
     grid.resize(static_cast<int>(lines.size()) + 1, cols + 1);
+    grid.column_widths = {540, 900};
     for (int col = 1; col <= cols; ++col) grid.cell(0, col).text = std::to_string(col);
     for (int row = 1; row < grid.rows; ++row) {
         const auto& fields = table[static_cast<std::size_t>(row - 1)];

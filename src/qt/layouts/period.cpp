@@ -32,7 +32,9 @@ QLabel* series(FormWindow& window, const char* text) {
     QLabel* const label = caption(window, text);
     label->setAlignment(Qt::AlignCenter);
     label->setFrameStyle(QFrame::Box | QFrame::Plain);
-    label->setEnabled(false);
+    QFont small = label->font();
+    small.setPointSizeF(small.pointSizeF() * 0.8);
+    label->setFont(small);
     return label;
 }
 
@@ -79,7 +81,7 @@ void lay_out_period(FormWindow& window, const FrmPeriod& f) {
     auto* system = new QGridLayout;
     system->setSpacing(2);
     const QFontMetrics metrics(window.font());
-    const int side = 2 * metrics.height() + 6;
+    const int side = 2 * metrics.height() + 10;
     for (int element = f.lblEle.first(); element <= f.lblEle.last(); ++element) {
         auto* const cell = static_cast<LabelView*>(window.of(f.lblEle(element)));
         cell->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
