@@ -13,6 +13,8 @@ namespace kolvar {
 // Path texts hold "/" or "\"; both separate.
 std::string native_path(std::string_view path);  // as this platform writes it
 std::string join_path(std::string_view folder, std::string_view name);
+// As join_path; "" is the current folder.
+std::string path_in(std::string_view folder, std::string_view name);
 std::string file_name(std::string_view path);    // behind the last separator
 std::string folder_of(std::string_view path);    // before the last separator
 std::string last_three(std::string_view path);   // its last three characters

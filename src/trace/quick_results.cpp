@@ -98,7 +98,7 @@ void AppendQuickResults(RunState& rs, Platform& os, QuickCall call) {
             const double layout = rs.setOneLine_IS.val();
             if (!rs.QuickExists || layout == 1) text += rs.QuickHdr2 + line_end;
             if (!rs.QuickExists || layout == 0 || layout == 1) text += rs.QuickLine + line_end;
-            append_file(os, join_path(rs.AppPath2, quick_name), text);
+            append_file(os, path_in(rs.AppPath2, quick_name), text);
         },
         [&](const Fault&) {
             os.warn(
