@@ -179,7 +179,10 @@ void connect_import_filter_window(Program& program) {
     FrmInputForm& form = context.forms.frm_InputForm;
     program.shell().set_hooks(form, {[&context] { open_import_filter(context); }, {}});
     for (const ProfileBoxes& boxes : profiles(context.rs, form))
-        for (Entry* box : {&boxes.iso, &boxes.dat, &boxes.first}) box->changed = [&context] { show_preview(context); };
+        for (Entry* box : {&boxes.iso, &boxes.dat, &boxes.first}) {
+            box->changed = [&context] { show_preview(context); };
+            program.on(form, box->name, EventKind::enter, [&context](const Event&) { cmdSave(context); });
+        }
     program.on(form, "cmdDetect", EventKind::click, [&context](const Event&) { detect(context); });
     program.on(form, "cmdSave", EventKind::click, [&context](const Event&) { cmdSave(context); });
     program.on(form, "cmdCancel", EventKind::click,

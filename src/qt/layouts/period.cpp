@@ -31,7 +31,6 @@ Place place_of(int element) {
 QLabel* series(FormWindow& window, const char* text) {
     QLabel* const label = caption(window, text);
     label->setAlignment(Qt::AlignCenter);
-    label->setFrameStyle(QFrame::Box | QFrame::Plain);
     QFont small = label->font();
     small.setPointSizeF(small.pointSizeF() * 0.8);
     label->setFont(small);
