@@ -3,6 +3,7 @@
 
 #include <exception>
 
+#include "core/default_keys.hpp"
 #include "core/intervals.hpp"
 #include "core/measurement.hpp"
 #include "core/references.hpp"
@@ -11,7 +12,7 @@
 
 namespace kolvar {
 
-struct RunState : Measurement, Intervals, References, SettingsKeys, Results {
+struct RunState : Measurement, Intervals, References, SettingsKeys, DefaultKeys, Results {
     RunState() = default;
     RunState(const RunState&) = delete;
     RunState& operator=(const RunState&) = delete;
