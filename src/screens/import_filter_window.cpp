@@ -10,6 +10,7 @@
 #include "import/profile_detection.hpp"
 #include "import/table_preview.hpp"
 #include "screens/screens.hpp"
+#include "settings/default_file.hpp"
 #include "settings/settings_file.hpp"
 
 namespace kolvar {
@@ -169,6 +170,7 @@ void cmdSave(Context& context) {
         boxes.first_key = std::floor(Val(boxes.first.text));
     }
     if (rs.Method == 0) save_settings_as(rs, context.os);
+    if (rs.Method == 1) save_defaults_as(rs, context.os);
     context.shell.close(form);
 }
 

@@ -224,6 +224,36 @@ TEST_F(ImportFilter, ASettingsFileThatCannotBeWrittenIsToldAndTheWindowCloses) {
     EXPECT_FALSE(form().shown);
 }
 
+TEST_F(ImportFilter, ThePathOfAgesSavesADefaultFile) {
+    open();
+    rs().Method = 1;
+    type(form(), "txtXLfirst", "5");
+    os.saves = {folder.path("new.def")};
+    click(form(), "cmdSave");
+    ASSERT_EQ(os.dialogs.size(), 1U);
+    EXPECT_EQ(os.dialogs[0].filter, "Default Files (*.def)|*.def|All Files (*.*)|*.*|");
+    EXPECT_EQ(os.dialogs[0].index, 1);
+    EXPECT_EQ(os.dialogs[0].name, rs().SettingsPath);
+    EXPECT_EQ(os.dialogs[0].folder, rs().AppPath1);
+    EXPECT_EQ(rs().SetFilePath, folder.path("new.def"));
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_FALSE(form().shown);
+    EXPECT_EQ(rs().setXLfirstCOL, Value(5));
+    EXPECT_TRUE(std::filesystem::exists(folder.path("new.def")));
+}
+
+TEST_F(ImportFilter, ThePathOfAgesAsksBeforeItOverwritesTheProposedFile) {
+    open();
+    rs().Method = 1;
+    const std::string before = bytes_of(rs().SettingsPath);
+    os.saves = {std::nullopt};
+    os.yes_or_no = {false};
+    click(form(), "cmdSave");
+    EXPECT_EQ(box_texts(), Texts{"Overwrite existing file?"});
+    EXPECT_EQ(bytes_of(rs().SettingsPath), before);
+    EXPECT_FALSE(form().shown);
+}
+
 TEST_F(ImportFilter, OtherMethodsChangeTheKeysAndSaveNothing) {
     for (const int method : {2, 3}) {
         open();
