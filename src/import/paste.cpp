@@ -30,7 +30,8 @@ std::string with_carriage_returns(std::string text) {
 
 // The columns are counted in the first line, the slices by the line ends: the very last character of the text ends no
 // line, so a lone carriage return behind the last slice does not count it.
-void count_cells(RunState& rs, std::string_view text) {
+// Returns the number of columns, which may be more than a table holds.
+std::ptrdiff_t count_cells(RunState& rs, std::string_view text) {
     const std::size_t end = text.find(line_end);
     const auto separators = std::count(text.begin(), end == text.npos ? text.end() : text.begin() + end, tab);
     if (end != text.npos && separators == 0) fail(FaultKind::end_of_file);
@@ -39,10 +40,10 @@ void count_cells(RunState& rs, std::string_view text) {
     const auto lines = std::count(text.begin(), text.end() - 1, line_end);
     rs.nSlices = static_cast<int>(std::clamp<std::ptrdiff_t>(lines - 1, 0, MaxSlices));
     if (lines - 1 < 3) fail(FaultKind::end_of_file);
-    if (separators + 1 > MaxIso || lines - 1 > MaxSlices) fail(FaultKind::too_many);
+    return separators + 1;
 }
 
-void read_heads(RunState& rs, std::string_view text) {
+void read_heads(RunState& rs, std::string_view text, std::ptrdiff_t columns) {
     std::string_view line = text.substr(0, text.find(line_end));
     for (int i = 1; i <= rs.nIso; ++i) {
         const std::size_t end = std::min(line.find(tab), line.size());
@@ -50,6 +51,7 @@ void read_heads(RunState& rs, std::string_view text) {
         if (rs.IsoName(i).empty() || is_numeric(rs.IsoName(i))) fail(FaultKind::type);
         line.remove_prefix(std::min(end + 1, line.size()));
     }
+    if (columns > MaxIso) fail(FaultKind::too_many);
 }
 
 double number_of(std::string_view cell) {
@@ -65,6 +67,7 @@ void read_slices(RunState& rs, std::string_view text) {
     std::size_t from = 0;
     for (std::size_t at = text.find_first_of("\t\r"); at != text.npos; at = text.find_first_of("\t\r", at + 1)) {
         const bool ends_line = text[at] == line_end;
+        if (row > MaxSlices) fail(FaultKind::too_many);
         if (row > 0) {
             rs.Sig(column, row) = number_of(text.substr(from, at - from));
             ++column;
@@ -86,8 +89,8 @@ void PasteData(Context& context) {
     if (rs.LineBuf.empty()) return context.os.warn("There are no numbers on the clipboard.");
     guarded(
         [&] {
-            count_cells(rs, rs.LineBuf);
-            read_heads(rs, rs.LineBuf);
+            const std::ptrdiff_t columns = count_cells(rs, rs.LineBuf);
+            read_heads(rs, rs.LineBuf, columns);
             read_slices(rs, rs.LineBuf);
             if (rs.Method == 0 || rs.Method == 1 || rs.Method == 3) rs.DataFileName = " pasted from clipboard ";
             if (rs.Method == 1 || rs.Method == 3) context.forms.frm1_Settings.lblUP.text = rs.DataFileName;

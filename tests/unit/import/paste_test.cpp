@@ -197,10 +197,13 @@ TEST_F(Paste, BeyondTheLimitsTheCountsStandAtThem) {
     paste(table(101, 3));
     expect_refused();
     EXPECT_EQ(rs.nIso, 100);
+    EXPECT_EQ(rs.IsoName(100), "Al27");
+    EXPECT_EQ(rs.Sig(1, 1), 0);
     shell.close(forms.frmPaste);
     paste(table(2, 6001));
     expect_refused();
     EXPECT_EQ(rs.nSlices, 6000);
+    EXPECT_EQ(rs.Sig(2, 6000), 5);  // what was read so far stays
 }
 
 TEST_F(Paste, OtherPathsTakeTheNameOfTheirOwn) {
