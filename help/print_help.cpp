@@ -82,6 +82,22 @@ void fit_pictures(HelpDocument& document) {
     }
 }
 
+// No heading stays behind on a page whose text begins on the next one.
+void keep_headings(QTextDocument& document, double page_height) {
+    const auto page = [&](const QTextBlock& block) {  // of its first line, which may stand below the block's top
+        const double top = document.documentLayout()->blockBoundingRect(block).top();
+        const double line = block.layout()->lineCount() > 0 ? block.layout()->lineAt(0).y() : 0;
+        return static_cast<int>((top + line) / page_height);
+    };
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QTextBlock below = block.next();
+        if (block.blockFormat().headingLevel() == 0 || !below.isValid() || page(block) == page(below)) continue;
+        QTextBlockFormat format = block.blockFormat();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(block).setBlockFormat(format);
+    }
+}
+
 bool print(HelpDocument& document, const QString& target) {
     QPdfWriter writer(target);
     writer.setResolution(dots_per_inch);
@@ -93,6 +109,7 @@ bool print(HelpDocument& document, const QString& target) {
     const double width = writer.width(), height = writer.height() - dots(footer);
     document.documentLayout()->setPaintDevice(&writer);
     document.setPageSize({width, height});
+    keep_headings(document, height);
 
     QPainter painter;
     if (!painter.begin(&writer)) return false;

@@ -220,6 +220,19 @@ def data_file(table, slices):
     return "".join(line + "\r\n" for line in lines)
 
 
+def spreadsheet(table, names, slices):
+    """A table to copy and paste, as the XML that spreadsheet programs read: heads, then a line for each slice."""
+    def cells(kind, values):
+        return "<Row>" + "".join(f'<Cell><Data ss:Type="{kind}">{v}</Data></Cell>' for v in values) + "</Row>"
+    lines = ['<?xml version="1.0"?>', '<?mso-application progid="Excel.Sheet"?>',
+             '<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet"'
+             ' xmlns:ss="urn:schemas-microsoft-com:office:spreadsheet">',
+             '<Worksheet ss:Name="Copy this block"><Table>', cells("String", names)]
+    lines += [cells("Number", [table[name][t] for name in names]) for t in slices]
+    lines += ["</Table></Worksheet>", "</Workbook>"]
+    return "".join(line + "\r\n" for line in lines)
+
+
 def statistical_table(title, rows):
     return title + "\r\n" + "".join(f"{n}," + ",".join(f"{v:.4f}" for v in values) + "\r\n" for n, values in rows)
 
@@ -231,6 +244,7 @@ def dwell_rows():
 
 
 SAMPLE_LAST, GLASS_LAST = 128, 138  # last slice of the ablation
+PASTE_ISOTOPES = ["Si29", "Ca43", "Sr88", "La139", "Th232", "U238"]  # of the table to copy: end of the blank, rise, signal
 SAMPLE_ABLATION = 1.15              # the sample gives more aerosol than the glass
 
 
@@ -256,6 +270,7 @@ def make():
         "nbs-610-2004-12-19-1.stm": records([(name, *measured_glass[name]) for name in ISOTOPES]),
         "example-1.csv": data_file(sample, SAMPLE_SLICES),
         "nist-610-1.csv": data_file(glass, GLASS_SLICES),
+        "Example-Copy-Paste.xls": spreadsheet(sample, PASTE_ISOTOPES, range(45, 69)),
     }
     for name, changes in data.SETTINGS_FILES.items():
         files[name] = records(data.settings(changes))

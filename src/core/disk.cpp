@@ -1,8 +1,10 @@
 // The part of files.hpp that talks to the operating system.
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -57,6 +59,19 @@ bool write_all(int fd, std::string_view bytes) {
     return true;
 }
 
+// Waits a moment for another program that appends to the same file.
+bool locked(int fd) {
+    constexpr int attempts = 200;
+    constexpr useconds_t pause = 10000;
+    for (int k = 0; k < attempts; ++k) {
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) return true;
+        if (errno != EWOULDBLOCK && errno != EINTR) return errno == ENOLCK || errno == EOPNOTSUPP;  // no locks here
+        ::usleep(pause);
+    }
+    errno = EACCES;
+    return false;
+}
+
 // A link is followed, so that the file behind it is replaced and not the link.
 std::string behind_links(const std::string& path) {
     std::error_code error;
@@ -78,7 +93,7 @@ bool folder_exists(const std::string& path) {
     return is_name(name) && ::stat(name.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
-std::string read_bytes(const std::string& path) {
+std::string read_head(const std::string& path, std::size_t most) {
     const std::string name = native_path(path);
     if (!is_name(name)) fail(FaultKind::file_missing, path);
     // A pipe would keep the reader waiting for its other end; it is no table of a measurement.
@@ -89,10 +104,10 @@ std::string read_bytes(const std::string& path) {
     struct stat info {};
     if (::fstat(file.fd(), &info) != 0 || !S_ISREG(info.st_mode)) fail(FaultKind::file_unreadable, path);
     std::string out;
-    out.resize(static_cast<std::size_t>(info.st_size));
+    out.resize(std::min(most, static_cast<std::size_t>(info.st_size)));
     std::size_t held = 0;
-    for (;;) {
-        if (held == out.size()) out.resize(out.size() + 4096);
+    while (held < most) {
+        if (held == out.size()) out.resize(std::min(most, out.size() + 4096));
         const ssize_t done = ::read(file.fd(), out.data() + held, out.size() - held);
         if (done < 0 && errno == EINTR) continue;
         if (done < 0) fail(FaultKind::file_unreadable, path);
@@ -102,6 +117,8 @@ std::string read_bytes(const std::string& path) {
     out.resize(held);
     return out;
 }
+
+std::string read_bytes(const std::string& path) { return read_head(path, std::string::npos); }
 
 void replace_file(Platform& os, const std::string& path, std::string_view bytes) {
     const std::string shown = native_path(path);
@@ -126,21 +143,25 @@ void replace_file(Platform& os, const std::string& path, std::string_view bytes)
 void append_file(Platform& os, const std::string& path, std::string_view bytes) {
     const std::string name = native_path(path);
     if (!is_name(name) || folder_exists(name)) fail(FaultKind::file_unwritable, path);
-    const bool existed = file_exists(name);
-    Handle file(name, O_WRONLY | O_CREAT | O_APPEND);
-    struct stat former {};
-    if (!file.is_open() || ::fstat(file.fd(), &former) != 0) fail(write_fault(), path);
-    const std::size_t room = os.room_on_disk(bytes.size());
-    const bool done = write_all(file.fd(), bytes.substr(0, room));
-    if (done && room == bytes.size()) {
-        if (!file.close()) fail(write_fault(), path);
-        return;
+    for (;;) {
+        const bool existed = file_exists(name);
+        Handle file(name, O_WRONLY | O_CREAT | O_APPEND);
+        struct stat former {};
+        // One program at a time: a write that has to be taken back takes no other program's with it.
+        if (!file.is_open() || !locked(file.fd()) || ::fstat(file.fd(), &former) != 0) fail(write_fault(), path);
+        if (former.st_nlink == 0) continue;  // taken away while this program waited
+        const std::size_t room = os.room_on_disk(bytes.size());
+        const bool done = write_all(file.fd(), bytes.substr(0, room));
+        if (done && room == bytes.size()) {
+            if (!file.close()) fail(write_fault(), path);
+            return;
+        }
+        // The file keeps whole lines: half a record at its end would spoil the next one too.
+        const FaultKind kind = done ? FaultKind::disk_full : write_fault();
+        const bool cut = ::ftruncate(file.fd(), former.st_size) == 0;
+        if (!existed && former.st_size == 0 && cut) ::unlink(name.c_str());
+        fail(kind, path);
     }
-    // The file keeps whole lines: half a record at its end would spoil the next one too.
-    const FaultKind kind = done ? FaultKind::disk_full : write_fault();
-    const bool cut = ::ftruncate(file.fd(), former.st_size) == 0;
-    if (!existed && cut) ::unlink(name.c_str());
-    fail(kind, path);
 }
 
 }  // namespace kolvar

@@ -116,6 +116,10 @@ std::string join_path(std::string_view folder, std::string_view name) {
     return out + native_path(name);
 }
 
+std::string path_in(std::string_view folder, std::string_view name) {
+    return folder.empty() ? native_path(name) : join_path(folder, name);
+}
+
 bool is_relative_path(const std::string& path) {
     const std::string native = native_path(path);
     return !native.empty() && native.front() != '/';

@@ -1,6 +1,7 @@
 // Whole files as bytes and lines, paths, and writing that replaces a file whole or not at all.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,8 @@ namespace kolvar {
 // Path texts hold "/" or "\"; both separate.
 std::string native_path(std::string_view path);  // as this platform writes it
 std::string join_path(std::string_view folder, std::string_view name);
+// As join_path; "" is the current folder.
+std::string path_in(std::string_view folder, std::string_view name);
 std::string file_name(std::string_view path);    // behind the last separator
 std::string folder_of(std::string_view path);    // before the last separator
 std::string last_three(std::string_view path);   // its last three characters
@@ -21,6 +24,8 @@ bool folder_exists(const std::string& path);
 
 // The bytes of a file. Fault(file_missing / file_unreadable) with the path; a folder is unreadable.
 std::string read_bytes(const std::string& path);
+// The same of a file's first bytes, as many as `most` at the highest.
+std::string read_head(const std::string& path, std::size_t most);
 
 // Bytes to text: drops a UTF-8 byte-order mark; bytes that are no valid UTF-8 are read as Windows-1252.
 std::string to_text(std::string bytes);

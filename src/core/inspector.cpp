@@ -66,7 +66,7 @@ FieldIndex indexed() {
     FieldIndex out;
     for (const auto part :
          {inspection::measurement_fields(), inspection::interval_fields(), inspection::reference_fields(),
-          inspection::settings_fields(), inspection::result_fields()}) {
+          inspection::settings_fields(), inspection::default_fields(), inspection::result_fields(), inspection::upb_fields()}) {
         for (const FieldEntry& entry : part) out.emplace(entry.name, &entry);
     }
     // Two tables of the ratio panel that also go by other names.

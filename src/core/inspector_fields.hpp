@@ -64,7 +64,9 @@ std::span<const FieldEntry> measurement_fields();
 std::span<const FieldEntry> interval_fields();
 std::span<const FieldEntry> reference_fields();
 std::span<const FieldEntry> settings_fields();
+std::span<const FieldEntry> default_fields();
 std::span<const FieldEntry> result_fields();
+std::span<const FieldEntry> upb_fields();
 
 }  // namespace kolvar::inspection
 

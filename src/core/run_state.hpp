@@ -3,15 +3,17 @@
 
 #include <exception>
 
+#include "core/default_keys.hpp"
 #include "core/intervals.hpp"
 #include "core/measurement.hpp"
 #include "core/references.hpp"
 #include "core/results.hpp"
 #include "core/settings_keys.hpp"
+#include "core/upb_results.hpp"
 
 namespace kolvar {
 
-struct RunState : Measurement, Intervals, References, SettingsKeys, Results {
+struct RunState : Measurement, Intervals, References, SettingsKeys, DefaultKeys, Results, UpbResults {
     RunState() = default;
     RunState(const RunState&) = delete;
     RunState& operator=(const RunState&) = delete;

@@ -45,9 +45,6 @@ struct SettingsKeys {
     Table1<Value> PeriodSym{MaxPeriod}, PeriodIS{MaxPeriod};  // 1..96
     Value setComments_IS;
 
-    // Keys of the other paths that the shared screens read.
-    Value setFormer_Sel, setPasteDat, setBzzPlot, setBzzMethod;
-
     std::string SettingsName, SettingsPath, SetFilePath;
 };
 

@@ -5,6 +5,7 @@
 #include "core/fault.hpp"
 #include "core/files.hpp"
 #include "core/numbers.hpp"
+#include "import/file_format.hpp"
 #include "import/recognition.hpp"
 #include "import/table_reader.hpp"
 #include "trace/statistics.hpp"
@@ -16,16 +17,6 @@ constexpr const char* data_file_filter =
     "All Files (*.*)|*.*|Comma Delimited Files (*.csv)|*.csv|Perkin-Elmer Export Files (*.xl)|*.xl|"
     "Element 2 Export Files (*.txt)|*.xl|All Registered File Typ (*.csv, *.xl, *.txt)|*.csv; *.xl; *.txt";
 constexpr int all_registered = 5;
-
-// A line or column number of a profile; a key that was never read is 0.
-int profile_number(const Value& key) {
-    constexpr double far = 1e9;  // no file has so many lines, and sums of two such numbers still are whole numbers
-    return static_cast<int>(std::clamp(round_half_even(key.val()), -far, far));
-}
-
-TableProfile profile_of(char separator, const Value& head, const Value& data, const Value& first, bool skips_empty) {
-    return {separator, profile_number(head), profile_number(data), profile_number(first), skips_empty};
-}
 
 template <class Profile>
 void load(Context& context, const std::string& path, Profile&& profile) {
@@ -104,6 +95,14 @@ void drop_intervals(RunState& rs) {
     rs.BlkUppX = 0;
 }
 
+// Means, medians, deviations and errors of the five ratios.
+void clear_results(RunState& rs) {
+    rs.Mean68 = rs.Mean75 = rs.Mean82 = rs.Mean382 = rs.Mean76 = 0;
+    rs.Med68 = rs.Med75 = rs.Med82 = rs.Med382 = rs.Med76 = 0;
+    rs.SD68 = rs.SD75 = rs.SD82 = rs.SD382 = rs.SD76 = 0;
+    rs.Err68 = rs.Err75 = rs.Err82 = rs.Err382 = rs.Err76 = 0;
+}
+
 }  // namespace
 
 void ClearData(RunState& rs) {
@@ -129,27 +128,35 @@ void ClearData(RunState& rs) {
 void LoadCSV(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadCSV");
-    load(context, path, [&] { return profile_of(',', rs.setCSVisoLINE, rs.setCSVdatLINE, rs.setCSVfirstCOL, false); });
+    load(context, path,
+         [&] { return profile_of(FileFormat::csv, rs.setCSVisoLINE, rs.setCSVdatLINE, rs.setCSVfirstCOL); });
 }
 
 void LoadTXT(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadTXT");
-    load(context, path, [&] { return profile_of('\t', rs.setTXTisoLINE, rs.setTXTdatLINE, rs.setTXTfirstCOL, true); });
+    load(context, path,
+         [&] { return profile_of(FileFormat::txt, rs.setTXTisoLINE, rs.setTXTdatLINE, rs.setTXTfirstCOL); });
 }
 
 void LoadXL(Context& context, const std::string& path) {
     RunState& rs = context.rs;
     Running running(rs, "LoadXL");
-    load(context, path, [&] { return profile_of(',', rs.setXLisoLINE, rs.setXLdatLINE, rs.setXLfirstCOL, true); });
+    load(context, path, [&] { return profile_of(FileFormat::xl, rs.setXLisoLINE, rs.setXLdatLINE, rs.setXLfirstCOL); });
 }
 
 void load_by_ending(Context& context) {
     const std::string path = context.rs.DataFilePath;
-    const std::string ending = last_three(path);
-    if (ending == "csv" || ending == "CSV") LoadCSV(context, path);
-    if (ending == "txt" || ending == "TXT") LoadTXT(context, path);
-    if (ending == ".xl" || ending == ".XL") LoadXL(context, path);
+    switch (format_of(path)) {
+        case FileFormat::csv:
+            return LoadCSV(context, path);
+        case FileFormat::txt:
+            return LoadTXT(context, path);
+        case FileFormat::xl:
+            return LoadXL(context, path);
+        case FileFormat::none:
+            return;
+    }
 }
 
 void SplitIsoNames(RunState& rs) {
@@ -214,6 +221,13 @@ void MaintainIntervals(Context& context) {
             return;
         }
         drop_intervals(rs);
+        clear_results(rs);
+        Frm2UP& form = context.forms.frm2_UP;
+        form.pict1.canvas.Clear();
+        form.pict2.canvas.Clear();
+        for (Control* control : std::initializer_list<Control*>{&form.cmdReject, &form.chkShowSD, &form.txtSD,
+                                                                &form.lblReject, &form.lblOM})
+            control->visible = false;
     }
 }
 

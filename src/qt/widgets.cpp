@@ -171,6 +171,11 @@ void TextView::focusOutEvent(QFocusEvent* event) {
     if (left_by_user(*event) && on_leave) on_leave();
 }
 
+void PanelView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && on_click) return on_click();
+    QFrame::mousePressEvent(event);
+}
+
 void PanelView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && on_dblclick) on_dblclick();
 }

@@ -103,9 +103,10 @@ class PanelView : public QFrame {
 public:
     explicit PanelView(QWidget* parent) : QFrame(parent) {}
 
-    std::function<void()> on_dblclick;
+    std::function<void()> on_click, on_dblclick;
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 };
 

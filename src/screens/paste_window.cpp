@@ -1,7 +1,36 @@
+// Data from the clipboard in the first window, and the window that tells why they could not be read.
+#include "import/data_file.hpp"
+#include "import/paste.hpp"
 #include "screens/screens.hpp"
+#include "screens/settings_panels.hpp"
 
 namespace kolvar {
 
-void connect_paste(Program&) {}
+namespace {
+
+void cmdPaste(Context& context) {
+    ClearData(context.rs);
+    context.rs.DataFileName = "  ";
+    PasteData(context);
+    context.forms.frm1_Settings.lblCSV.text = context.rs.DataFileName;
+    fill_lists(context);
+}
+
+// Without a name there are no data: the way on asks for a file.
+void close_report(Context& context) {
+    context.rs.DataFileName.clear();
+    context.shell.close(context.forms.frmPaste);
+}
+
+}  // namespace
+
+void connect_paste(Program& program) {
+    Context& context = program.context();
+    program.on(context.forms.frm1_Settings, "cmdPaste", EventKind::click,
+               [&context](const Event&) { cmdPaste(context); });
+    program.on(context.forms.frmPaste, "cmdClose", EventKind::click,
+               [&context](const Event&) { close_report(context); });
+    program.on(context.forms.frmPaste, "", EventKind::close, [&context](const Event&) { close_report(context); });
+}
 
 }  // namespace kolvar

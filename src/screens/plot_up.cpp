@@ -5,6 +5,7 @@
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
 #include "screens/plots.hpp"
+#include "screens/selection.hpp"
 #include "screens/time_window.hpp"
 
 namespace kolvar {

@@ -8,6 +8,7 @@
 #include "screens/plots.hpp"
 #include "screens/time_window.hpp"
 #include "trace/statistics.hpp"
+#include "upb/outliers.hpp"
 
 namespace kolvar {
 namespace {
@@ -38,15 +39,25 @@ void mark_beam_start(Context& context, const TimeScreen& screen) {
     draw_UP(context);
 }
 
-// The user overrides a proposal of the refinement that was not accepted: its limits become the selection, which the
-// click then changes. The labels that show a proposal stand on the U/Pb screen, which comes in a later version.
-void take_over_stale_proposal(RunState& rs) {
-    if (rs.AcceptBest || (!rs.BestLow.is_set() && !rs.BestUpp.is_set())) return;
+void forget_proposal(Frm2UP& form) {
+    form.lblBestLow.visible = form.lblBestUpp.visible = form.lblExplain.visible = false;
+    for (Label* label : {&form.lblBestLow, &form.lblBestUpp, &form.lblBest68, &form.lblBest75, &form.lblImprove,
+                         &form.lblZizzMin1, &form.lblZizzMin2, &form.lblRMS68, &form.lblRMS75})
+        label->text.clear();
+}
+
+bool shows_text(const Label& label) { return label.visible && !label.text.empty(); }
+
+// The user overrides a proposal of the refinement that was not accepted: the limits that the search started from
+// become the selection, which the click then changes.
+void take_over_stale_proposal(RunState& rs, Frm2UP& form) {
+    if (rs.AcceptBest || (!shows_text(form.lblBestLow) && !shows_text(form.lblBestUpp))) return;
     rs.SelLow = rs.BestLow;
     rs.SelUpp = rs.BestUpp;
     count_selection(rs);
     rs.BestLow.clear();
     rs.BestUpp.clear();
+    forget_proposal(form);
     rs.ZizzMin68 = 0;
     rs.ZizzMin75 = 0;
 }
@@ -128,7 +139,11 @@ void drop_stale_results(Context& context) {
         restore_rejected(rs, context.forms.frm2_UP);
         context.forms.frm2_UP.lblReject.visible = context.forms.frm2_UP.lblOM.visible = false;
     }
+    Frm2UP& form = context.forms.frm2_UP;
+    form.cmdZizeges.visible = true;
+    form.cmdAccept.visible = false;
     rs.ZizzRunning = false;
+    forget_proposal(form);
     rs.ZizzMin68 = 0;
     rs.ZizzMin75 = 0;
 }
@@ -186,7 +201,7 @@ void mark_selection(Context& context, TimeScreen& screen) {
         mark_beam_start(context, screen);
         return;
     }
-    take_over_stale_proposal(rs);
+    take_over_stale_proposal(rs, context.forms.frm2_UP);
     // A dropped click leaves everything as it is: no redraw, and ClickShift stands.
     if (rs.ClickShift == 0 && !mark_signal(rs, screen)) return;
     if (rs.ClickShift == 1 && !mark_blank(context, screen)) return;

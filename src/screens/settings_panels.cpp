@@ -31,19 +31,6 @@ void enable_choices(Frm1Settings& form, bool files) {
            !files);
 }
 
-void fill_lists(Context& context) {
-    RunState& rs = context.rs;
-    Frm1Settings& form = context.forms.frm1_Settings;
-    std::vector<std::string> names;
-    for (int i = 1; i <= rs.nIso; ++i) names.push_back(rs.IsoName(i));
-    for (ListBox* list : {&form.comboIso, &form.comboIso2, &form.comboIso3}) list->set_items(names);
-    if (rs.PlotOn != 0 || !rs.IS1col.is_set()) return;
-    // A standard that the data do not have shows the name of column 0, which is empty.
-    form.comboIso.show_item(rs.IsoName(rs.IS1col.val()));
-    form.comboIso2.show_item(rs.IsoName(rs.IS2col.val()));
-    form.comboIso3.show_item(rs.IsoName(rs.IS3col.val()));
-}
-
 void show_panel(Frm1Settings& form, const Panel& panel, const char* title) {
     for (Panel* each : {&form.pict_IS, &form.pict_UT, &form.pict_FLEX}) each->visible = each == &panel;
     form.title = title;
@@ -87,6 +74,19 @@ void activate_flex(Context& context) {
 }
 
 }  // namespace
+
+void fill_lists(Context& context) {
+    RunState& rs = context.rs;
+    Frm1Settings& form = context.forms.frm1_Settings;
+    std::vector<std::string> names;
+    for (int i = 1; i <= rs.nIso; ++i) names.push_back(rs.IsoName(i));
+    for (ListBox* list : {&form.comboIso, &form.comboIso2, &form.comboIso3}) list->set_items(names);
+    if (rs.PlotOn != 0 || !rs.IS1col.is_set()) return;
+    // A standard that the data do not have shows the name of column 0, which is empty.
+    form.comboIso.show_item(rs.IsoName(rs.IS1col.val()));
+    form.comboIso2.show_item(rs.IsoName(rs.IS2col.val()));
+    form.comboIso3.show_item(rs.IsoName(rs.IS3col.val()));
+}
 
 std::string shown_name(const std::string& name) { return "  " + name + "  "; }
 

@@ -15,6 +15,9 @@ void activate_settings_window(Context& context);
 // After a load: name of the data file and the lists of isotopes.
 void show_data_file(Context& context);
 
+// The lists of isotopes hold the columns and show the internal standards.
+void fill_lists(Context& context);
+
 // The frame of internal standards has a row for each that is used.
 void follow_number_of_standards(Context& context);
 // The controls that follow the chosen mode, source of the blank, and source of the dwell times.

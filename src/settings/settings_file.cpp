@@ -62,7 +62,9 @@ void write_line(const RunState& rs, const SettingsLine& line, RecordWriter& reco
     records.end_record();
 }
 
-void derive_fields(RunState& rs) {
+}  // namespace
+
+void derive_from_settings(RunState& rs) {
     rs.IS1name = rs.setIntSta.text();
     rs.IS1conc = rs.setCcIntSta;
     rs.IS1err = rs.setErIntSta;
@@ -73,11 +75,8 @@ void derive_fields(RunState& rs) {
     rs.IS3conc = rs.setCcIntSta3;
     rs.IS3err = rs.setErIntSta3;
     rs.BlankFromData = rs.setBLK_IS.val() == 1 ? 1 : 0;
-    rs.DwellFromFile = rs.setDwellFromFile_IS.val() == 1 ? 1 : 0;
     rs.LinearView = rs.setLinearIS.val() == 1;
 }
-
-}  // namespace
 
 void warn_of_settings_file(Platform& os, const std::string& path) {
     os.warn("Error occurred while trying to load file: " + native_path(path) +
@@ -92,21 +91,25 @@ void ReadSettings(RunState& rs, Platform& os, const std::string& path) {
         [&] {
             RecordReader records(to_text(read_bytes(path)), path);
             for (const SettingsLine& line : settings_lines()) read_line(rs, line, records);
-            derive_fields(rs);
+            derive_from_settings(rs);
+            rs.DwellFromFile = rs.setDwellFromFile_IS.val() == 1 ? 1 : 0;
         },
         [&](const Fault&) { warn_of_settings_file(os, path); });
 }
 
+void replace_settings(const RunState& rs, Platform& os, const std::function<std::string()>& compose) {
+    if (file_exists(rs.SetFilePath) && !os.ask("Overwrite existing file?")) return;
+    guarded([&] { replace_file(os, rs.SetFilePath, compose()); },
+            [&](const Fault&) { os.warn("Error occurred while trying to save file, please retry."); });
+}
+
 void WriteSettings(RunState& rs, Platform& os) {
     Running running(rs, "WriteSettings");
-    if (file_exists(rs.SetFilePath) && !os.ask("Overwrite existing file?")) return;
-    guarded(
-        [&] {
-            RecordWriter records;
-            for (const SettingsLine& line : settings_lines()) write_line(rs, line, records);
-            replace_file(os, rs.SetFilePath, records.bytes());
-        },
-        [&](const Fault&) { os.warn("Error occurred while trying to save file, please retry."); });
+    replace_settings(rs, os, [&] {
+        RecordWriter records;
+        for (const SettingsLine& line : settings_lines()) write_line(rs, line, records);
+        return records.bytes();
+    });
 }
 
 FileDialog settings_save_dialog(const RunState& rs) { return {settings_filter, 1, rs.SettingsPath, rs.AppPath1}; }

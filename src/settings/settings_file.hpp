@@ -1,6 +1,7 @@
 // The settings file: everything that the internal-standard path remembers between runs.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/platform.hpp"
@@ -14,6 +15,12 @@ void ReadSettings(RunState& rs, Platform& os, const std::string& path);
 
 // The box for a settings file that could not be read.
 void warn_of_settings_file(Platform& os, const std::string& path);
+
+// The fields of the run state that follow from the keys: IS1name..IS3err, BlankFromData, LinearView.
+void derive_from_settings(RunState& rs);
+
+// Replaces SetFilePath by what `compose` gives; asks before it overwrites; reports its own faults.
+void replace_settings(const RunState& rs, Platform& os, const std::function<std::string()>& compose);
 
 // Writes to SetFilePath; asks before it overwrites; reports its own faults.
 void WriteSettings(RunState& rs, Platform& os);

@@ -22,8 +22,6 @@ std::string without_last(std::string text, int characters) {
     return text;
 }
 
-std::string element_of(const RunState& rs, const Limit& column) { return rs.IsoElem(column.val()); }
-
 void add_standards(const RunState& rs, std::string& out) {
     const double number = rs.setISnum.val();
     if (number != 1 && number != 2 && number != 3) return;
@@ -154,6 +152,8 @@ void add_slices(const RunState& rs, const Table2<Cell>& table, std::string& out)
 }
 
 }  // namespace
+
+std::string element_of(const RunState& rs, const Limit& column) { return rs.IsoElem(column.val()); }
 
 void Comp_Output(RunState& rs, Platform& os) {
     Running running(rs, "Comp_Output");

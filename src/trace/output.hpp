@@ -9,6 +9,8 @@ namespace kolvar {
 
 // Composes the whole result table into OutText.
 void Comp_Output(RunState& rs, Platform& os);
+// The element of an internal standard, by its column.
+std::string element_of(const RunState& rs, const Limit& column);
 // "_M_G2.5_t20-t80": how data were rejected and which slices were selected.
 std::string BuildSuffix(const RunState& rs);
 // The data file's name without its ending, the suffix, and an ending such as ".txt".

@@ -1,4 +1,6 @@
 // Help: the three faces lie in one column, one of them in view.
+#include <QFontDatabase>
+
 #include "qt/canvas_view.hpp"
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
@@ -47,6 +49,7 @@ void lay_out_cut_text(FormWindow& window, const FrmHelp1& f) {
 void lay_out_help(FormWindow& window, const FrmHelp1& f) {
     lay_out_about(window, f);
     lay_out_cut_text(window, f);
+    window.of(f.txt1)->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));  // the text has columns
     auto* const sketch = static_cast<CanvasView*>(window.of(f.pictCutTime));
     const QColor body = window.palette().color(QPalette::Window);
     sketch->ground = rgb(body.red(), body.green(), body.blue());  // the strip with the numbers is no part of the plot

@@ -6,7 +6,17 @@
 namespace kolvar {
 
 struct FrmInputForm : Form {
-    FrmInputForm() : Form("frm_InputForm", "Customize Import") {}
+    FrmInputForm() : Form("frm_InputForm", "Customize Import") {
+        put_into(framePreview, {&lblFile, &cmdDetect, &FlexGrid1});
+        for (Entry* box : {&txtCSViso, &txtTXTiso, &txtXLiso}) box->fore = red;
+        for (Entry* box : {&txtCSVdat, &txtTXTdat, &txtXLdat}) box->fore = blue;
+    }
+
+    // The line of heads and the first time slice, as numbers and as grounds of the preview.
+    static constexpr Colour red = rgb(192, 0, 0), blue = rgb(0, 0, 192);
+    static constexpr Colour pale_red = rgb(255, 208, 208), pale_blue = rgb(204, 224, 255);
+    static constexpr Colour dropped = rgb(208, 208, 208);   // columns left of the first isotope
+    static constexpr Colour not_read = rgb(112, 112, 112);  // text of lines that the profile passes over
 
     Label lblPurpose{*this, "lblPurpose",
                      "The import filter can be customized according to the format of the datafiles of the user"};

@@ -1,8 +1,14 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <thread>
+#include <vector>
 
 #include "core/fault.hpp"
 #include "core/files.hpp"
@@ -155,6 +161,47 @@ TEST_F(Disk, AFullDiskWhileAppendingKeepsWholeLines) {
     os.disk_room = 3;
     EXPECT_EQ(fault_of([&] { append_file(os, folder.path("0_new"), "two\r\n"); }).kind, FaultKind::disk_full);
     EXPECT_FALSE(fs::exists(folder.path("0_new")));
+}
+
+// Each of four programs appends records of its own letter; on the way some meet a full disk and are taken back.
+TEST_F(Disk, ProgramsThatAppendAtOnceNeverMixOrLoseTheirLines) {
+    constexpr int writers = 4;
+    constexpr int records = 250;
+    std::vector<std::thread> threads;
+    for (int k = 0; k < writers; ++k)
+        threads.emplace_back([&, k] {
+            const std::string record = std::string(3000, static_cast<char>('a' + k)) + "\r\n";
+            test::ScriptedPlatform own;
+            for (int n = 0; n < records; ++n) {
+                own.disk_room = n % 5 == 4 ? 1000 : static_cast<std::size_t>(-1);
+                const auto append = [&] { append_file(own, folder.path("0_quick"), record); };
+                guarded(append, [](const Fault&) {});
+            }
+        });
+    for (std::thread& thread : threads) thread.join();
+
+    const std::string bytes = folder.read("0_quick");
+    LineReader lines(bytes);
+    std::map<char, int> found;
+    while (!lines.at_end()) {
+        const std::string_view line = lines.next();
+        ASSERT_EQ(line.size(), 3000U);
+        ASSERT_EQ(line.find_first_not_of(line.front()), std::string_view::npos);
+        ++found[line.front()];
+    }
+    ASSERT_EQ(found.size(), static_cast<std::size_t>(writers));
+    for (const auto& [letter, count] : found) EXPECT_EQ(count, records * 4 / 5) << letter;
+}
+
+TEST_F(Disk, AFileThatAnotherProgramKeepsLockedIsReportedAndLeftAlone) {
+    folder.write("0_quick", "one\r\n");
+    const int fd = ::open(folder.path("0_quick").c_str(), O_RDONLY);
+    ASSERT_EQ(::flock(fd, LOCK_EX), 0);
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("0_quick"), "two\r\n"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(folder.read("0_quick"), "one\r\n");
+    ::close(fd);
+    append_file(os, folder.path("0_quick"), "two\r\n");
+    EXPECT_EQ(folder.read("0_quick"), "one\r\ntwo\r\n");
 }
 
 TEST_F(Disk, ReadingAndWritingNeverChangeTheCurrentFolder) {

@@ -32,7 +32,7 @@ protected:
 // The names that the headers of the run state declare.
 std::set<std::string> declared_names() {
     std::set<std::string> out;
-    for (const char* part : {"measurement", "intervals", "references", "settings_keys", "results"}) {
+    for (const char* part : {"measurement", "intervals", "references", "settings_keys", "default_keys", "results", "upb_results"}) {
         std::string text = test::bytes_of(std::string(KOLVAR_SOURCE_DIR) + "/src/core/" + part + ".hpp");
         text = std::regex_replace(text, std::regex("//[^\n]*"), "");
         text = text.substr(text.find("struct "));
