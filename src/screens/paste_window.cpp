@@ -16,6 +16,20 @@ void cmdPaste(Context& context) {
     fill_lists(context);
 }
 
+// The U/Pb and FLEX panel. The table takes the place of a file: the way on is open once it was read.
+void cmdPaste1(Context& context) {
+    RunState& rs = context.rs;
+    Frm1Settings& form = context.forms.frm1_Settings;
+    ClearData(rs);
+    form.cmdOK1.visible = false;
+    form.lblUP.text = "  ";
+    PasteData(context);
+    if (context.forms.frmPaste.shown || rs.LineBuf.empty() || (rs.Method != 1 && rs.Method != 3)) return;
+    rs.PlotOn = 0;
+    rs.BlankFromData = 1;
+    form.cmdOK1.visible = true;
+}
+
 // Without a name there are no data: the way on asks for a file.
 void close_report(Context& context) {
     context.rs.DataFileName.clear();
@@ -28,6 +42,8 @@ void connect_paste(Program& program) {
     Context& context = program.context();
     program.on(context.forms.frm1_Settings, "cmdPaste", EventKind::click,
                [&context](const Event&) { cmdPaste(context); });
+    program.on(context.forms.frm1_Settings, "cmdPaste1", EventKind::click,
+               [&context](const Event&) { cmdPaste1(context); });
     program.on(context.forms.frmPaste, "cmdClose", EventKind::click,
                [&context](const Event&) { close_report(context); });
     program.on(context.forms.frmPaste, "", EventKind::close, [&context](const Event&) { close_report(context); });

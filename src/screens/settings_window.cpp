@@ -7,9 +7,9 @@
 #include "import/data_file.hpp"
 #include "screens/screens.hpp"
 #include "screens/set_is_window.hpp"
-#include "screens/uranium_lead_files.hpp"
 #include "screens/settings_panels.hpp"
 #include "screens/start_paths.hpp"
+#include "screens/uranium_lead_files.hpp"
 #include "settings/default_file.hpp"
 #include "settings/reference_files.hpp"
 #include "settings/settings_file.hpp"
@@ -201,9 +201,7 @@ void open_defaults(Context& context, const char* filter) {
     if (rs.Method != former_method) context.shell.activate_again();
 }
 
-void cmdChooseSET(Context& context) {
-    open_defaults(context, "All Files (*.*)|*.*|Default Files (*.def)|*.def");
-}
+void cmdChooseSET(Context& context) { open_defaults(context, "All Files (*.*)|*.*|Default Files (*.def)|*.def"); }
 
 // Offers settings files, though what it reads is a default file.
 void Command6(Context& context) { open_defaults(context, "All Files (*.*)|*.*|Setting Files (*.set)|*.set"); }
@@ -270,7 +268,7 @@ void connect_settings_window(Program& program) {
     click("Command6", Command6);
     click("cmdOK1", cmdOK1);
     click("Command9", Command9);
-    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster", "cmdSet_1", "cmdPaste1"})
+    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster", "cmdSet_1"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
     click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });

@@ -5,6 +5,7 @@
 #include "core/stat_tables.hpp"
 #include "import/data_file.hpp"
 #include "screens/start_paths.hpp"
+#include "settings/default_file.hpp"
 #include "settings/reference_files.hpp"
 #include "settings/settings_file.hpp"
 
@@ -77,6 +78,29 @@ void start_internal_standard_path(Context& context) {
     rs.DataFilePath = example;
 }
 
+void load_example(Context& context, const std::string& name, void (*load)(Context&, const std::string&)) {
+    RunState& rs = context.rs;
+    rs.DataFileName = name;
+    rs.DataFilePath = join_path(rs.WorkPath, name);
+    load(context, rs.DataFilePath);
+}
+
+void start_uranium_lead_path(Context& context, int method) {
+    RunState& rs = context.rs;
+    read_start_path(rs, context.os, "start_path_KolvAGE");
+    rs.SettingsName = "KolvAge-default-b01.def";
+    rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
+    ReadDefaults(rs, context.os, rs.SettingsPath);
+    if (method == 3) {
+        rs.Method = 3;  // whatever the file holds
+        return load_example(context, "0-FLEX-UT19-50.xl", LoadXL);
+    }
+    // The example has neither a line before its heads nor a column before its first isotope; it is left out when the
+    // files of the user do.
+    if (rs.setCSVisoLINE.val() == 1 && rs.setCSVdatLINE.val() == 2 && rs.setCSVfirstCOL.val() == 1)
+        load_example(context, "test-01-no-Hg-235-232.csv", LoadCSV);
+}
+
 }  // namespace
 
 std::string start_kit_folder(const RunState& rs, const std::string& named) {
@@ -108,10 +132,7 @@ void start_up(Context& context, int method, const std::string& app_folder) {
     if (method == 0) {
         start_internal_standard_path(context);
     } else if (method == 1 || method == 3) {
-        // The default file of these paths and its example come with their screens.
-        read_start_path(rs, context.os, "start_path_KolvAGE");
-        rs.SettingsName = "KolvAge-default-b01.def";
-        rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
+        start_uranium_lead_path(context, method);
     }
     rs.PlotOn = 0;
     context.shell.open(context.forms.frm1_Settings);

@@ -11,13 +11,16 @@ namespace {
 
 constexpr int margin = 120;
 constexpr int head = 1020;           // lines about file and intervals above the plots
-constexpr int signals_width = 2175;  // analytes, mean cps, margins
-constexpr int signals_top = 1320;
+constexpr int signals_width = 2700;  // analytes, mean cps, margins
+constexpr int signals_top = 1020;
 constexpr int scale_labels = 750;
 constexpr int bar_width = 255;
-constexpr int strip_width = 2550;   // buttons at the right
+constexpr int strip_width = 2550;   // scales, copies, the way
 constexpr int between_plots = 640;  // numbers of the limits, head of the ratio plot
-constexpr int results_height = 3700;
+constexpr int results_height = 3900;
+constexpr int ratios_width = 7700;
+constexpr int ages_width = 2500;
+constexpr int refinement_width = 2600;
 constexpr int label_height = 240;
 
 void place(Control& control, int left, int top, int width, int height) {
@@ -74,7 +77,23 @@ void lay_out_up_window(Context& context) {
     form.pictFormer.height = 75;
     place(form.picUP_elems, margin, signals_top, signals_width, results_top - signals_top - margin);
     place(form.pictRightSide, form.width - margin - strip_width, head, strip_width, results_top - head - margin);
-    place(form.pictResults, margin, results_top, form.width - 2 * margin, results_height - margin);
+    // Below: ratios, ages over outliers, refinement over the choice of the diagram, the scatter plot.
+    const int height_below = results_height - margin;
+    place(form.pictResults, margin, results_top, ratios_width, height_below);
+    int at = margin + ratios_width + margin;
+    place(form.Frame1, at, results_top, ages_width, 1680);
+    place(form.Frame4, at, results_top + 1740, ages_width, height_below - 1740);
+    at += ages_width + margin;
+    place(form.FrameBzzz, at, results_top, refinement_width, 2370);
+    place(form.Frame2, at, results_top + 2430, refinement_width, height_below - 2430);
+    at += refinement_width + margin;
+    const int scatter_width = std::max(form.width - at - bar_width - margin, 300);
+    place(form.lblXY, at, results_top, scatter_width, label_height);
+    place_plot(form.pict3, at, results_top + label_height + 30, scatter_width, height_below - 2 * label_height - 60);
+    place(form.VScroll2, at + form.pict3.width + 15, form.pict3.top, bar_width, form.pict3.height);
+    const int below_scatter = form.pict3.top + form.pict3.height + 30;
+    place(form.lblRizsa(12), at, below_scatter, scatter_width / 2, label_height);
+    place(form.lblRizsa(13), at + scatter_width / 2, below_scatter, scatter_width / 2, label_height);
 }
 
 void resize_up_window(Context& context) {

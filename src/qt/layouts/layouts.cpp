@@ -3,9 +3,12 @@
 namespace kolvar {
 
 void lay_out(FormWindow& window, const Form& form, Program& program) {
-    const Forms& forms = program.forms();
+    Forms& forms = program.forms();
     if (&form == &forms.frm1_Settings) lay_out_settings(window, forms.frm1_Settings);
     if (&form == &forms.frm2_Time) lay_out_time(window, forms.frm2_Time, program.state());
+    if (&form == &forms.frm2_UP) lay_out_up(window, forms.frm2_UP, program.state());
+    if (&form == &forms.frm_Missing_UPb) lay_out_missing_upb(window, forms.frm_Missing_UPb);
+    if (&form == &forms.frm_Hg_isot) lay_out_hg_isotopes(window, forms.frm_Hg_isot);
     if (&form == &forms.frm3_Matrix) lay_out_matrix(window, forms.frm3_Matrix);
     if (&form == &forms.frm4_Output) lay_out_output(window, forms.frm4_Output);
     if (&form == &forms.frm5_Preview) lay_out_preview(window, forms.frm5_Preview);

@@ -11,6 +11,9 @@ void lay_out(FormWindow& window, const Form& form, Program& program);
 
 void lay_out_settings(FormWindow& window, const Frm1Settings& form);
 void lay_out_time(FormWindow& window, const Frm2Time& form, const RunState& rs);
+void lay_out_up(FormWindow& window, Frm2UP& form, const RunState& rs);
+void lay_out_missing_upb(FormWindow& window, const FrmMissingUPb& form);
+void lay_out_hg_isotopes(FormWindow& window, const FrmHgIsot& form);
 void lay_out_matrix(FormWindow& window, const Frm3Matrix& form);
 void lay_out_output(FormWindow& window, const Frm4Output& form);
 void lay_out_preview(FormWindow& window, const Frm5Preview& form);

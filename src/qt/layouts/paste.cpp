@@ -8,8 +8,8 @@ void lay_out_paste(FormWindow& window, const FrmPaste& f) {
     auto* const whole = new QVBoxLayout(window.body());
     whole->setContentsMargins(14, 14, 14, 14);
     whole->setSpacing(8);
-    for (const Label* text : {&f.lblError, &f.lblCheck, &f.lblHow, &f.lblOrder, &f.lblFirst, &f.lblOther, &f.lblExample,
-                              &f.lblWarning}) {
+    for (const Label* text :
+         {&f.lblError, &f.lblCheck, &f.lblHow, &f.lblOrder, &f.lblFirst, &f.lblOther, &f.lblExample, &f.lblWarning}) {
         wrapping(window, *text).setMinimumWidth(480);
         whole->addWidget(window.of(*text));
         if (text == &f.lblCheck || text == &f.lblExample) whole->addSpacing(8);

@@ -16,7 +16,8 @@ Frm2UP::Frm2UP() : TimeScreen("frm2_UP", "Kolv-AGE  -  Selection of time slices 
     lblRizsa(23).text = "Default File:";
     lblRizsa(30).text = "Master file:";
 
-    put_into(pictRightSide, {&optLi, &optLo});
+    put_into(pictRightSide, {&optLi, &optLo, &optLiR, &optLoR, &cmdCopyHead, &cmdCopy, &cmdApp, &cmdCopySel,
+                             &cmdNewFile, &cmdSett, &cmdExit, &cmdBack, &cmdNext});
     for (Label& label : lblFLEXiso) put_into(picUP_elems, {&label});
     put_into(picUP_elems, {&lbl238,     &lbl235,    &lbl232,    &lbl208,    &lbl207,      &lbl206,    &lbl204,
                            &lblAver(8), &lbl238LoD, &lbl235LoD, &lbl232LoD, &lbl208LoD,   &lbl207LoD, &lbl206LoD,
@@ -26,9 +27,10 @@ Frm2UP::Frm2UP() : TimeScreen("frm2_UP", "Kolv-AGE  -  Selection of time slices 
         put_into(pictResults, {&row.box, &row.mean, &row.median, &row.tzero, &row.poisson, &row.skewness, &row.slope,
                                &row.correlation});
     }
-    put_into(pictResults, {&chkLinReg, &lblAv, &lblMed, &lblTz, &lbl8_5, &Label15});
-    put_into(Frame1, {&lblAge06_38Head, &lblAge06_38, &lblAge07_35Head, &lblAge07_35, &lblConcordHead, &lblConcord1});
-    put_into(Frame2, {&optConcord(0), &optConcord(1)});
+    put_into(pictResults, {&chkLinReg, &lblAv, &lblMed, &lblTz, &lbl8_5});
+    put_into(Frame1,
+             {&lblAge06_38Head, &lblAge06_38, &lblAge07_35Head, &lblAge07_35, &Label15, &lblConcordHead, &lblConcord1});
+    put_into(Frame2, {&optConcord(0), &optConcord(1), &Command1, &lblRizsa(6), &lblFusion});
     put_into(Frame4, {&chkShowSD, &lblIfSD, &txtSD, &chkRejOL, &cmdReject, &lblReject, &lblOM});
     for (Label& mark : Shape) put_into(Frame4, {&mark});
     put_into(FrameBzzz, {&txtZizzRange, &comboBzz, &Combo7, &Combo8, &chkBzzPrompt, &cmdZizeges, &cmdAccept, &lblRMS68,

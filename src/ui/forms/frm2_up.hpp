@@ -16,6 +16,7 @@ struct Frm2UP : TimeScreen {
     // 23 head of the default file, 30 head of the master file.
     ControlArray<Label> lblRizsa{*this, "lblRizsa", 3, 30, ""};
     Label lblXY{*this, "lblXY", "Normalized scatter of data points"};
+    Frame Frame2{*this, "Frame2", "X-Y plot"};
     ControlArray<OptionButton> optConcord{*this, "optConcord", 0, 1, "Tera-Wasserburg", 2};
     Button Command1{*this, "Command1", "Aspect ratio"};
     OptionButton optLiR{*this, "optLiR", "Linear", 3};
@@ -94,7 +95,6 @@ struct Frm2UP : TimeScreen {
     Label lblLR4r{*this, "lblLR4r"};
     Label lblLR5b{*this, "lblLR5b"};
     Label lblLR5r{*this, "lblLR5r"};
-    Label Label15{*this, "Label15", "Pb207/Pb206"};
 
     // Ages.
     Frame Frame1{*this, "Frame1", "Rough concordance"};
@@ -102,9 +102,9 @@ struct Frm2UP : TimeScreen {
     Label lblAge06_38{*this, "lblAge06_38"};
     Label lblAge07_35Head{*this, "lblAge07_35Head", "Pb207/U235"};
     Label lblAge07_35{*this, "lblAge07_35"};
-    Label lblConcordHead{*this, "lblConcordHead", "Pb207/Pb206"};
+    Label Label15{*this, "Label15", "Pb207/Pb206"};
+    Label lblConcordHead{*this, "lblConcordHead", "206/238 : 207/235"};
     Label lblConcord1{*this, "lblConcord1"};
-    Frame Frame2{*this, "Frame2", "X-Y plot"};
 
     // Outliers.
     Frame Frame4{*this, "Frame4", "Outliers"};
