@@ -3,7 +3,7 @@
 namespace kolvar {
 
 void lay_out(FormWindow& window, const Form& form, Program& program) {
-    const Forms& forms = program.forms();
+    Forms& forms = program.forms();
     if (&form == &forms.frm1_Settings) lay_out_settings(window, forms.frm1_Settings);
     if (&form == &forms.frm2_Time) lay_out_time(window, forms.frm2_Time, program.state());
     if (&form == &forms.frm3_Matrix) lay_out_matrix(window, forms.frm3_Matrix);
