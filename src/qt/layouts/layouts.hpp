@@ -23,7 +23,7 @@ void lay_out_omit(FormWindow& window, const FrmOmit& form);
 void lay_out_folder(FormWindow& window, const FrmChoseDir& form);
 void lay_out_averages(FormWindow& window, const FrmAverConc& form);
 void lay_out_batch(FormWindow& window, const FrmBatchIS& form);
-void lay_out_set_is(FormWindow& window, const FrmSetIS& form);
+void lay_out_set_is(FormWindow& window, FrmSetIS& form);
 void lay_out_period(FormWindow& window, const FrmPeriod& form);
 void lay_out_import_filter(FormWindow& window, const FrmInputForm& form);
 void lay_out_paste(FormWindow& window, const FrmPaste& form);
