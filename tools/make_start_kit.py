@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes the files of start-kit/ and the tables of docs/example.md.
+"""Makes the files of start-kit/ and the tables of docs/example.md and docs/example-uranium-lead.md.
 
     tools/make_start_kit.py           writes them
     tools/make_start_kit.py --check   makes them in a temporary folder and compares byte for byte; also compares the
-                                      statistical tables with published values, the example with its true composition
+                                      statistical tables with published values, the examples with their true composition
 
 The measurements are simulated: what a quadrupole would record of a gas blank and an ablation, with counting noise, laser
 flicker, decay of the signal and a few spikes. Random numbers, the exponential function and the summation order are our own, so
@@ -17,6 +17,8 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 import make_start_kit_data as data  # noqa: E402
 import make_start_kit_stats as stats  # noqa: E402
+import make_start_kit_uranium as uranium  # noqa: E402
+from make_start_kit_base import Random, deviation_of, exponential, fill_tables, mean_of, records  # noqa: E402
 
 ROOT = Path(__file__).resolve().parent.parent
 KIT = "start-kit"
@@ -34,48 +36,6 @@ SIGNAL_FIRST, SIGNAL_LAST = 60, 120
 SAMPLE_SLICES, GLASS_SLICES = 150, 160
 # Spikes of the example: (isotope, slice): cps on top. The first lies before the blank to be marked, the others in the signal.
 SPIKES = {("Zr90", 2): 4000, ("Pb208", 78): 9000, ("La139", 95): 60000, ("Ce140", 95): 110000, ("U238", 111): 3500}
-
-
-class Random:
-    """xorshift64* (Vigna 2016) and the two distributions made from it."""
-
-    def __init__(self, seed):
-        self.state = seed
-
-    def uniform(self):
-        """A number from 0 up to below 1, of 53 bits."""
-        x = self.state
-        x ^= x >> 12
-        x ^= (x << 25) & 0xFFFFFFFFFFFFFFFF
-        x ^= x >> 27
-        self.state = x
-        return (((x * 0x2545F4914F6CDD1D) & 0xFFFFFFFFFFFFFFFF) >> 11) / 9007199254740992.0
-
-    def normal(self):
-        """Near enough to the normal distribution: the sum of twelve uniform numbers less six."""
-        return total_of([self.uniform() for _ in range(12)]) - 6.0
-
-    def poisson(self, mean):
-        """Counts: Knuth's product up to a mean of 200, above it the normal distribution of the same mean and variance."""
-        if mean > 200.0:
-            return max(0, math.floor(mean + math.sqrt(mean) * self.normal() + 0.5))
-        limit, product, count = exponential(-mean), self.uniform(), 0
-        while product > limit:
-            product *= self.uniform()
-            count += 1
-        return count
-
-
-def exponential(x):
-    """exp(x) from additions, multiplications and divisions alone, which every machine does alike."""
-    x /= 1024.0
-    term = total = 1.0
-    for k in range(1, 20):
-        term *= x / k
-        total += term
-    for _ in range(10):
-        total *= total
-    return total
 
 
 def signal_shape(t, last):
@@ -100,22 +60,6 @@ def measure(seed, ppm, slices, last, ablation, spikes):
             milliseconds = round(1000 * DWELL[name])
             table[name].append(random.poisson(cps * DWELL[name]) * 1000 // milliseconds)
     return table
-
-
-def total_of(values):
-    """A plain sum from left to right; the built-in one compensates rounding in newer versions of Python only."""
-    total = 0.0
-    for value in values:
-        total += value
-    return total
-
-
-def mean_of(values):
-    return total_of(values) / len(values)
-
-
-def deviation_of(values, mean):
-    return math.sqrt(total_of([(value - mean) * (value - mean) for value in values]) / (len(values) - 1))
 
 
 def interval(column, first, last):
@@ -198,21 +142,6 @@ def counting_variance(name, ppm, last):
 
 # ---- files ---------------------------------------------------------------------------------------------------------------
 
-def field(value):
-    return f'"{value}"' if isinstance(value, str) else decimal(value)
-
-
-def decimal(value):
-    text = repr(value)
-    assert "e" not in text and "n" not in text, text
-    return text[:-2] if text.endswith(".0") else text
-
-
-def records(rows):
-    """A record file: texts in double quotes, numbers bare, CR LF after each record."""
-    return "".join(",".join(field(value) for value in row) + "\r\n" for row in rows)
-
-
 def data_file(table, slices):
     lines = ["Time [sec]," + ",".join(ISOTOPES)]
     for t in range(1, slices + 1):
@@ -249,7 +178,7 @@ SAMPLE_ABLATION = 1.15              # the sample gives more aerosol than the gla
 
 
 def make():
-    """All files: path below the root -> bytes; and the check values."""
+    """All files: path below the root -> bytes; and a message for each result that differs from the truth."""
     sample = measure(20041219, SAMPLE, SAMPLE_SLICES, SAMPLE_LAST, SAMPLE_ABLATION, SPIKES)
     glass = measure(610610610, GLASS, GLASS_SLICES, GLASS_LAST, 1.0, {})
     glass_net = net_of(glass, blank_of(glass))
@@ -275,13 +204,16 @@ def make():
     for name, changes in data.SETTINGS_FILES.items():
         files[name] = records(data.settings(changes))
     expected = Expected(sample, glass, measured_glass)
+    lead = uranium.Made()
+    files.update(lead.files)
     files = {f"{KIT}/{name}": text.encode("ascii") for name, text in files.items()}
     files[EXAMPLE_DOC] = document(expected).encode("utf-8")
-    return files, expected
+    files[uranium.DOC] = fill_tables((ROOT / uranium.DOC).read_text(encoding="utf-8"), lead.tables).encode("utf-8")
+    return files, check_expected(expected) + lead.faults()
 
 
 def document(expected):
-    """docs/example.md with its tables made anew; the words between the tables are written by hand."""
+    """docs/example.md with its tables made anew."""
     tables = {
         "instrument": ["| isotope | dwell, ms | cps per ppm | gas blank, cps | sample, ppm | glass, ppm |",
                        "| --- | --: | --: | --: | --: | --: |"]
@@ -295,12 +227,7 @@ def document(expected):
         "noisy": [f"**{expected.noisy_blank}** values of the blank interval lie more than three s.d. from their mean."],
         "grubbs": ["| isotope | slice |", "| --- | --: |"] + [f"| {name} | {t} |" for name, t in expected.grubbs],
     }
-    text = (ROOT / EXAMPLE_DOC).read_text(encoding="utf-8")
-    for name, lines in tables.items():
-        begin, end = f"<!-- made: {name} -->\n", "<!-- end -->"
-        head, rest = text.split(begin)
-        text = head + begin + "\n".join(lines) + "\n" + rest[rest.index(end):]
-    return text
+    return fill_tables((ROOT / EXAMPLE_DOC).read_text(encoding="utf-8"), tables)
 
 
 # ---- checks --------------------------------------------------------------------------------------------------------------
@@ -333,8 +260,8 @@ def main(arguments):
     if arguments not in ([], ["--check"]):
         print(__doc__)
         return 2
-    files, expected = make()
-    wrong = stats.check_tables() + check_expected(expected) + check_files(files)
+    files, wrong = make()
+    wrong += stats.check_tables() + check_files(files)
     folder = ROOT
     if arguments:
         with tempfile.TemporaryDirectory() as name:
