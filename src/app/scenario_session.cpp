@@ -13,9 +13,7 @@ namespace kolvar::scenario {
 namespace {
 
 // Windows that later versions bring.
-constexpr std::array<std::string_view, 8> windows_to_come = {"frm2_UP",         "frm_SetUP",     "frm_Set_FLEX",
-                                                             "frm_FileList",    "frm_Hg_isot",   "frm_drift",
-                                                             "frm_Missing_UPb", "frm_Missing_UP"};
+constexpr std::array<std::string_view, 4> windows_to_come = {"frm_SetUP", "frm_Set_FLEX", "frm_FileList", "frm_drift"};
 
 }  // namespace
 

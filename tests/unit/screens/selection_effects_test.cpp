@@ -23,7 +23,9 @@ struct SelectionEffects : testing::Test {
         bench.signal(1, {10, 12, 14, 112, 212, 312, 412, 512, 612, 712});
         bench.signal(2, {50, 60, 70, 560, 1060, 1560, 2060, 2560, 3060, 3560});
     }
-    void mark(int button, int slice, int shift = 0) { OnPlotDown(bench.context, 1, button, shift, 900.0 * slice, 0); }
+    void mark(int button, int slice, int shift = 0) {
+        OnPlotDown(bench.context, bench.frm, 1, button, shift, 900.0 * slice, 0);
+    }
 };
 
 TEST_F(SelectionEffects, FourLimitsGiveBlankNetSignalAndStatistics) {
@@ -126,7 +128,7 @@ struct BeamStart : testing::Test {
         rs.Method = 1;
         OnBeamStartLabel(rs);
     }
-    void press(int button, int slice) { OnPlotDown(bench.context, 1, button, 0, 9.0 * slice, 0); }
+    void press(int button, int slice) { OnPlotDown(bench.context, bench.frm, 1, button, 0, 9.0 * slice, 0); }
 };
 
 TEST_F(BeamStart, AnyClickSetsItWhileNoSelectionBegins) {
@@ -164,7 +166,10 @@ TEST_F(BeamStart, OnTheInternalStandardPathAWaitingClickMarksTheSelection) {
 }
 
 struct UraniumLeadSelection : BeamStart {
-    UraniumLeadSelection() { rs.WaitBeamStart = false; }
+    UraniumLeadSelection() {
+        rs.WaitBeamStart = false;
+        rs.PlotOn = 1;  // the marks alone: nothing is drawn or calculated
+    }
     void all_four() {
         rs.SelLow = 100, rs.SelUpp = 200, rs.BlkLow = 10, rs.BlkUpp = 30;
         rs.SelLowX = 900, rs.SelUppX = 1800, rs.BlkLowX = 90, rs.BlkUppX = 270;
@@ -174,6 +179,9 @@ struct UraniumLeadSelection : BeamStart {
 TEST_F(UraniumLeadSelection, ProposalThatWasNotAcceptedBecomesTheSelectionBeforeTheClick) {
     rs.BestLow = 120;
     rs.BestUpp = 180;
+    Label& proposal = bench.forms.frm2_UP.lblBestLow;
+    proposal.text = "125";
+    proposal.visible = true;
     rs.ZizzMin68 = 3;
     rs.ZizzMin75 = 4;
     press(left, 110);
@@ -184,6 +192,18 @@ TEST_F(UraniumLeadSelection, ProposalThatWasNotAcceptedBecomesTheSelectionBefore
     EXPECT_FALSE(rs.BestUpp.is_set());
     EXPECT_DOUBLE_EQ(rs.ZizzMin68, 0);
     EXPECT_DOUBLE_EQ(rs.ZizzMin75, 0);
+    EXPECT_EQ(proposal.text, "");
+    EXPECT_FALSE(proposal.visible);
+}
+
+// A text that an earlier search left in a hidden label is no proposal.
+TEST_F(UraniumLeadSelection, OnlyAShownProposalIsTakenOver) {
+    rs.BestLow = 120;
+    rs.BestUpp = 180;
+    bench.forms.frm2_UP.lblBestLow.text = "125";
+    press(left, 110);
+    EXPECT_FALSE(rs.SelUpp.is_set());
+    EXPECT_TRUE(rs.BestLow.is_set());
 }
 
 TEST_F(UraniumLeadSelection, AnyClickWithFourLimitsUndoesTheRejectionOfOutliers) {

@@ -19,7 +19,7 @@ struct Selection : testing::Test {
     RunState& rs = bench.rs;
     Frm2Time& frm = bench.frm;
 
-    void press(int button, double x, int shift = 0) { OnPlotDown(bench.context, 1, button, shift, x, 300); }
+    void press(int button, double x, int shift = 0) { OnPlotDown(bench.context, bench.frm, 1, button, shift, x, 300); }
 };
 
 TEST_F(Selection, ClickIsRoundedToTheNearestSlice) {
@@ -198,7 +198,7 @@ TEST_F(Selection, OnceAPlotWasDrawnClicksCountEvenWithoutACurve) {
 
 TEST_F(Selection, EveryPressOnTheUpperPlotEnablesReject) {
     frm.cmdReject.enabled = false;
-    OnPlotDown(bench.context, 2, left, 0, 900, 300);
+    OnPlotDown(bench.context, bench.frm, 2, left, 0, 900, 300);
     EXPECT_EQ(rs.SelLow, Limit(100));
     EXPECT_FALSE(frm.cmdReject.enabled);
     press(left, 900);
@@ -208,7 +208,7 @@ TEST_F(Selection, EveryPressOnTheUpperPlotEnablesReject) {
 TEST_F(Selection, ReleaseBringsBothZoomBarsBack) {
     frm.VScroll1.set_value_quietly(40);
     frm.VScroll3.set_value_quietly(50);
-    OnPlotUp(bench.context);
+    OnPlotUp(bench.context, bench.frm);
     EXPECT_EQ(frm.VScroll1.value, 1);
     EXPECT_EQ(frm.VScroll3.value, 1);
 }
@@ -217,7 +217,7 @@ TEST_F(Selection, ReleaseLeavesTheLowerBarOnTheUraniumLeadPath) {
     rs.Method = 1;
     frm.VScroll1.set_value_quietly(40);
     frm.VScroll3.set_value_quietly(50);
-    OnPlotUp(bench.context);
+    OnPlotUp(bench.context, bench.frm);
     EXPECT_EQ(frm.VScroll1.value, 1);
     EXPECT_EQ(frm.VScroll3.value, 50);
 }
@@ -228,7 +228,7 @@ TEST_F(Selection, ReleaseRunsABarsChangeOnlyWhenItWasMoved) {
     frm.VScroll1.changed = [&] { ++upper; };
     frm.VScroll3.changed = [&] { ++lower; };
     frm.VScroll3.set_value_quietly(50);
-    OnPlotUp(bench.context);
+    OnPlotUp(bench.context, bench.frm);
     EXPECT_EQ(upper, 0);
     EXPECT_EQ(lower, 1);
 }
@@ -241,7 +241,7 @@ TEST_F(Selection, ResizeMovesPositionsAndKeepsSlices) {
     rs.FormerLow = 50;
     rs.FormerUpp = 60;
     frm.pict1.width = 4500;
-    positions_from_slices(bench.context);
+    positions_from_slices(bench.rs, bench.frm);
     EXPECT_EQ(rs.SelLow, Limit(100));
     EXPECT_DOUBLE_EQ(rs.SelLowX, 450);
     EXPECT_DOUBLE_EQ(rs.SelUppX, 900);
@@ -253,7 +253,7 @@ TEST_F(Selection, ResizeMovesPositionsAndKeepsSlices) {
 
 TEST_F(Selection, ResizeLeavesUnmarkedLimitsAtZero) {
     rs.SelLow = 100;
-    positions_from_slices(bench.context);
+    positions_from_slices(bench.rs, bench.frm);
     EXPECT_DOUBLE_EQ(rs.SelLowX, 900);
     EXPECT_DOUBLE_EQ(rs.SelUppX, 0);
 }
