@@ -1,4 +1,6 @@
 """The measurements of the U/Pb and FLEX paths: simulated, reckoned, and told in docs/example-uranium-lead.md."""
+import math
+
 from make_start_kit_base import Random, exponential, mean_of
 from make_start_kit_defaults import (DEFAULT_FILE, DWELL, LEAD_TO_204, MERCURY, MERCURY_TO_204, STANDARDS, URANIUM_238_235,
                                      default_file, ratio_75)
@@ -254,8 +256,11 @@ class Made:
     def samples_table(self):
         def row(k):
             zircon = ZIRCONS[SESSION[k - 1]]
-            return (f"`{session_name(k)}`", *(f"{v:.5f}" for r in ("6/8", "7/6") for v in (self.drift[r].corrected[k], zircon.true[r])))
-        return table(("file", "206/238", "true", "207/206", "true"), [row(k) for k in self.drift["6/8"].corrected])
+            age = math.log(1.0 + self.drift["6/8"].corrected[k]) / LAMBDA_238 / 1e6
+            return (f"`{session_name(k)}`", *(f"{v:.5f}" for r in ("6/8", "7/6") for v in (self.drift[r].corrected[k], zircon.true[r])),
+                    f"{age:.1f}", zircon.age)
+        return table(("file", "206/238", "true", "207/206", "true", "206/238 age, Ma", "true"),
+                     [row(k) for k in self.drift["6/8"].corrected])
 
     def test_table(self):
         rows = [(title, *(f"{v:.6f}" for r in ("6/8", "7/6") for v in (
