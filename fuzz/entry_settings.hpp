@@ -2,6 +2,7 @@
 #pragma once
 
 #include "entries.hpp"
+#include "settings/default_file.hpp"
 #include "settings/reference_files.hpp"
 #include "settings/settings_file.hpp"
 
@@ -21,6 +22,27 @@ inline void settings(Bytes bytes) {
     const std::string first = read_bytes(rs.SetFilePath);
     ReadSettings(rs, os, rs.SetFilePath);
     WriteSettings(rs, os);
+    require(os.boxes == 0);
+    require(read_bytes(rs.SetFilePath) == first);
+}
+
+// A default file is taken whole or not at all, and what was taken is written so that it reads back the same.
+inline void defaults(Bytes bytes) {
+    static RunState rs;
+    static SilentPlatform os(true);
+    static ScratchFile file("defaults");
+    static ScratchFile written("defaults-written");
+    os.boxes = 0;
+    rs.SetFilePath = written.write({});
+    WriteDefaults(rs, os);
+    const std::string before = read_bytes(rs.SetFilePath);
+    ReadDefaults(rs, os, file.write(bytes));
+    WriteDefaults(rs, os);
+    const std::string first = read_bytes(rs.SetFilePath);
+    if (os.boxes != 0) return require(first == before);
+    require(rs.setNumSTD.whole() <= MaxStd);
+    ReadDefaults(rs, os, rs.SetFilePath);
+    WriteDefaults(rs, os);
     require(os.boxes == 0);
     require(read_bytes(rs.SetFilePath) == first);
 }

@@ -14,7 +14,7 @@ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD
 ninja -C "$build" fuzzers >>"$build/build.log" || { cat "$build.log"; exit 1; }
 
 status=0
-for name in data_file records settings blank_table; do
+for name in data_file clipboard records settings defaults blank_table; do
     mkdir -p "$build/corpus/$name" "$build/findings"
     log=$build/$name.log
     # New inputs go to the first folder; the corpus of the project is only read.

@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QScrollBar>
 
@@ -182,13 +183,23 @@ void type(Session& session, Words& words) {
     const std::string text = words.text("what is typed");
     words.finish();
     must_be_usable(control, "typing into " + name);
-    QLineEdit* const field = field_of(session.desktop->widget(control));
-    focus_on(field, Qt::OtherFocusReason);
+    QWidget* const widget = session.desktop->widget(control);
+    QLineEdit* const field = field_of(widget);
+    auto* const lines = qobject_cast<QPlainTextEdit*>(widget);
+    focus_on(lines != nullptr ? widget : field, Qt::OtherFocusReason);
     session.running();
     must_be_usable(control, "typing into " + name);
     if (control.locked || control.text == text) return;  // typing changes nothing
     Event event = event_of(control, EventKind::type);
     event.text = text;
+    if (lines != nullptr) {
+        event.text = utf8(shown(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));  // as Enter ends a line
+        carry_out(session, event, [&] {
+            lines->selectAll();
+            lines->insertPlainText(shown(event.text));
+        });
+        return;
+    }
     if (field == nullptr) {  // a list that is only chosen from: the program takes the text as that of its field
         send(session, event);
         return;
@@ -235,7 +246,7 @@ void leave(Session& session, Words& words) {
     Control& control = session.control(name);
     must_be_usable(control, "leaving " + name);
     QWidget* const widget = session.desktop->widget(control);
-    QLineEdit* const field = field_of(widget);
+    QWidget* const field = qobject_cast<QPlainTextEdit*>(widget) != nullptr ? widget : field_of(widget);
     if (field == nullptr) {
         if (widget != nullptr) widget->clearFocus();
         send(session, event_of(control, EventKind::leave));

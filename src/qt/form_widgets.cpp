@@ -206,7 +206,9 @@ void FormWindow::sync_text(const Control& control, QWidget* widget) {
     } else if (auto* lines = dynamic_cast<TextView*>(widget)) {
         QString text = shown(control.text);  // whatever ends its lines, the widget knows one line end only
         text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-        if (lines->toPlainText() != text) lines->setPlainText(text);
+        QString held = text;
+        held.replace(QChar::Nbsp, QLatin1Char(' '));  // as the widget gives it back
+        if (lines->toPlainText() != held) lines->setPlainText(text);
         if (lines->isReadOnly() != control.locked) lines->setReadOnly(control.locked);
     } else if (auto* frame = qobject_cast<QGroupBox*>(widget)) {
         const QString text = shown_caption(control.text);

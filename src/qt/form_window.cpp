@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -95,6 +96,9 @@ void FormWindow::report(const Control& control, EventKind kind, const std::funct
 }
 
 void FormWindow::show_first() {
+    // Before the first showing the controls don't know their fonts yet, and ask for too little.
+    for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();
+    for (QLayout* layout : findChildren<QLayout*>()) layout->invalidate();
     const QSize hint = sizeHint();
     form_.width = form_.width > 0 ? form_.width : hint.width() * twips_per_pixel;
     form_.height = form_.height > 0 ? form_.height : (hint.height() - menu_height()) * twips_per_pixel;

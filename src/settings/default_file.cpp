@@ -137,6 +137,7 @@ Contents read_contents(RecordReader& records) {
 }
 
 void take(RunState& rs, const Contents& contents) {
+    derive_from_settings(rs);  // from keys that are not in this file; a fault in one of them comes before any change
     rs.LineBuf = contents.last_comment;
     rs.Method = contents.method;
     auto value = contents.values.begin();
@@ -147,7 +148,6 @@ void take(RunState& rs, const Contents& contents) {
     for (Value* cell : cells_behind(rs, rs.setNumSTD.whole())) *cell = *value++;
     value = contents.behind.begin();
     for (const Line& line : behind_standards) rs.*line.field = *value++;
-    derive_from_settings(rs);
 }
 
 std::string compose(RunState& rs) {

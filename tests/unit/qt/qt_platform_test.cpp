@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QImage>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -109,6 +111,29 @@ TEST(QtPlatform, ClipboardKeepsTabsAndLineEnds) {
     QtPlatform platform;
     platform.set_clipboard("a\tb\r\nc\r");
     EXPECT_EQ(platform.clipboard(), "a\tb\r\nc\r");
+}
+
+TEST(QtPlatform, APictureOnTheClipboardIsNoText) {
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QApplication::clipboard()->setImage(picture);
+    EXPECT_EQ(QtPlatform().clipboard(), "");
+}
+
+// A settings file is proposed in its own folder, wherever the dialog would start without it.
+TEST(QtPlatform, AProposedPathLeadsToItsFolder) {
+    const TempFolder folder;
+    const TempFolder elsewhere;
+    FileDialog wanted;
+    wanted.name = folder.path("own.set");
+    wanted.folder = elsewhere.path();
+    QString directory;
+    when_shown<QFileDialog>([&directory](QFileDialog& dialog) {
+        directory = dialog.directory().absolutePath();
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(QtPlatform().save_file(wanted), folder.path("own.set"));
+    EXPECT_EQ(directory.toStdString(), folder.path());
 }
 
 }  // namespace
