@@ -245,7 +245,7 @@ void append_to_summary(const RunState& rs, Platform& os) {
         if (!rs.QuickHdr1.empty()) lines += rs.QuickHdr1 + file_line_end;
         lines += rs.QuickHdr2 + file_line_end;
     }
-    append_file(os, join_path(rs.AppPath2, summary_name), lines + rs.QuickLine + file_line_end);
+    append_file(os, path_in(rs.AppPath2, summary_name), lines + rs.QuickLine + file_line_end);
 }
 
 }  // namespace

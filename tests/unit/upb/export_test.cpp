@@ -233,6 +233,14 @@ TEST_F(Export, OnlyASummaryFileInTheCurrentFolderCountsAsThere) {
     EXPECT_EQ(folder.read("data/0_summary"), once + once);
 }
 
+// Not the root of the disk: a file that was given without a folder lies in the current one.
+TEST_F(Export, TheSummaryFileOfADataFileWithoutAFolderLiesInTheCurrentOne) {
+    rs.AppPath2 = "";
+    rs.AppendSummary = true;
+    copy_to_clpb(context);
+    EXPECT_TRUE(folder.read("0_summary").starts_with(full_title + "\r\n" + full_heads + "\r\n"));
+}
+
 TEST_F(Export, ASummaryFileThatCantBeWrittenIsAFaultThatLeavesNoFlagStanding) {
     fs::create_directory(folder.path("0_summary"));
     rs.AppendSummary = true;
