@@ -34,4 +34,22 @@ inline double selected_median(std::span<const double> cells) {
     return (sorted[middle - 1] + sorted[middle]) / 2;
 }
 
+// The same while slices are rejected: the places that are flagged with 1 keep what stands in `sorted`, the others take
+// the smallest of all cells in upward order.
+inline void sort_around_rejected(std::span<const double> cells, std::span<const int> flags, std::span<double> sorted) {
+    std::vector<double> source(cells.begin(), cells.end());
+    std::size_t found = 0;
+    for (std::size_t place = 0; place < source.size(); ++place) {
+        if (flags[place] == 1) continue;
+        sorted[place] = 1.0E9;
+        for (std::size_t j = 0; j < source.size(); ++j) {
+            if (source[j] < sorted[place]) {
+                sorted[place] = source[j];
+                found = j;
+            }
+        }
+        source[found] = 1.0E9;
+    }
+}
+
 }  // namespace kolvar::plain

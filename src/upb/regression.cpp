@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 #include "core/numbers.hpp"
 #include "upb/ratio_fields.hpp"
@@ -36,28 +37,19 @@ double residual_sd(const RunState& rs, const RatioFields& ratio) {
 void sort_ratios(RunState& rs, const Table1<double>& ratio) {
     const int low = rs.SelLow.val();
     const int upp = rs.SelUpp.val();
-    bool plain = true;  // sorting gives the same as taking the smallest again and again
+    std::vector<int> ascending;
     for (int t = low; t <= upp; ++t) {
         rs.MedianWork(t) = ratio(t);
-        if (!(ratio(t) < sentinel) || rs.RejFlag(t) == 1) plain = false;
+        if (ratio(t) < sentinel) ascending.push_back(t);
     }
-    if (plain) {
-        for (int t = low; t <= upp; ++t) rs.MedianSorted(t) = rs.MedianWork(t);
-        const auto sorted = rs.MedianSorted.range(low, upp);
-        std::sort(sorted.begin(), sorted.end());
-        for (int t = low; t <= upp; ++t) rs.MedianWork(t) = sentinel;
-        return;
-    }
-    int smallest = low;
+    std::stable_sort(ascending.begin(), ascending.end(), [&](int a, int b) { return ratio(a) < ratio(b); });
+    auto next = ascending.begin();
     for (int i = low; i <= upp; ++i) {
         if (rs.RejFlag(i) == 1) continue;
         rs.MedianSorted(i) = sentinel;
-        for (int j = low; j <= upp; ++j) {
-            if (!(rs.MedianWork(j) < rs.MedianSorted(i))) continue;
-            rs.MedianSorted(i) = rs.MedianWork(j);
-            smallest = j;
-        }
-        rs.MedianWork(smallest) = sentinel;
+        if (next == ascending.end()) continue;
+        rs.MedianSorted(i) = ratio(*next);
+        rs.MedianWork(*next++) = sentinel;  // taken
     }
 }
 
