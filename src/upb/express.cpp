@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/numbers.hpp"
+#include "upb/outliers.hpp"
 #include "upb/ratio_fields.hpp"
 #include "upb/regression.hpp"
 #include "upb/scatter_plot.hpp"
@@ -141,19 +142,25 @@ void show_ratios(const RunState& rs, Frm2UP& form) {
     if (rs.ColU235 != 0) form.lbl8_5.text = with_error(rs.Mean85, rs.Err85);
 }
 
-void show_skewness(const RunState& rs, Frm2UP& form) {
+double skewness(const RunState& rs, const RatioFields& ratio) {
+    const double mean = rs.*ratio.mean;
+    const double sum = sum_counted(rs, [&](int t) {
+        const double off = (rs.*ratio.slices)(t)-mean;
+        return off * off * off;
+    });
     const double n = rs.SelNGood;
-    for (int k = 0; k < ratio_count; ++k) {
-        const RatioFields& ratio = ratio_fields()[static_cast<std::size_t>(k)];
-        if (!ratio.measured(rs)) continue;
-        const double mean = rs.*ratio.mean;
-        const double sum = sum_counted(rs, [&](int t) {
-            const double off = (rs.*ratio.slices)(t)-mean;
-            return off * off * off;
-        });
-        const double sd = rs.*ratio.sd;
-        form.ratio_row(k).skewness.text = Format(quotient(n * sum, (n - 1) * (n - 2) * sd * sd * sd), "0.0");
-    }
+    const double sd = rs.*ratio.sd;
+    return quotient(n * sum, (n - 1) * (n - 2) * (sd * sd * sd));
+}
+
+// All are known before one is shown: where a ratio is constant none of the labels changes.
+void show_skewness(const RunState& rs, Frm2UP& form) {
+    std::array<std::string, ratio_count> texts;
+    for (std::size_t k = 0; k < texts.size(); ++k)
+        if (ratio_fields()[k].measured(rs)) texts[k] = Format(skewness(rs, ratio_fields()[k]), "0.0");
+    for (int k = 0; k < ratio_count; ++k)
+        if (ratio_fields()[static_cast<std::size_t>(k)].measured(rs))
+            form.ratio_row(k).skewness.text = texts[static_cast<std::size_t>(k)];
 }
 
 struct SignalLabels {
@@ -291,7 +298,7 @@ void calc_express_UP(Context& context) {
         show_ratios(rs, form);
         show_skewness(rs, form);
         show_signals(rs, form);
-        form.cmdReject.enabled = form.cmdReject.visible = true;
+        offer_rejection(form);
         form.cmdCopyHead.enabled = form.cmdCopy.enabled = form.cmdApp.enabled = true;
         if (rs.Method == 1) form.cmdCopySel.enabled = true;
         show_poisson(rs, form);

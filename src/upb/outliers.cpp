@@ -54,6 +54,14 @@ std::vector<Outlier> Out_Liers(RunState& rs, Frm2UP& form) {
     return found;
 }
 
+void offer_rejection(Frm2UP& form) {
+    if (!form.cmdReject.visible) {
+        form.chkShowSD.visible = form.txtSD.visible = true;
+        form.lblReject.visible = form.lblOM.visible = form.chkShowSD.on();
+    }
+    form.cmdReject.enabled = form.cmdReject.visible = true;
+}
+
 void emphasise_rejection(Frm2UP& form, bool rejected) {
     const std::optional<Colour> colour = rejected ? std::optional<Colour>(palette(4)) : std::nullopt;
     form.lblReject.fore = form.lblOM.fore = colour;

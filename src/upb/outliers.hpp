@@ -19,6 +19,10 @@ std::vector<Outlier> Out_Liers(RunState& rs, Frm2UP& form);
 // Puts all slices back into the statistics; the button offers the rejection again.
 void restore_rejected(RunState& rs, Frm2UP& form);
 
+// Makes the button usable. With it come back the controls around it that a new file without intervals had hidden, the
+// count of outliers only while they are shown.
+void offer_rejection(Frm2UP& form);
+
 // How lblReject and lblOM tell that outliers are rejected.
 void emphasise_rejection(Frm2UP& form, bool rejected);
 

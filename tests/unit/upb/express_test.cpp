@@ -270,6 +270,79 @@ TEST_F(Express, ASelectionOfTwoSlicesEndsInAFaultBehindTheRatios) {
     EXPECT_EQ(form.lblAge06_38.text, "old");
 }
 
+// 238/232 is constant. The skewness of the ratios before it is not shown either.
+TEST_F(Express, AConstantRatioEndsInAFaultAndLeavesEverySkewnessAsItWas) {
+    signal(th232, {50, 50, 100, 100});
+    form.lblSkew1.text = form.lblSkew2.text = form.lblSkew4.text = form.lblSkew5.text = form.lbl238.text = "old";
+    EXPECT_EQ(fault_of([&] { calculate(); }), FaultKind::division_by_zero);
+    EXPECT_EQ(form.lbl38_2.text, "2.000  \xC2\xB1 0.000");
+    for (const Label* label : {&form.lblSkew1, &form.lblSkew2, &form.lblSkew4, &form.lblSkew5, &form.lbl238})
+        EXPECT_EQ(label->text, "old") << label->name;
+}
+
+// Without Th232 8/2 and 38/2 hold nothing, with a spread of 0: no fault, their skewness is not asked for.
+TEST_F(Express, TheSkewnessOfAMissingRatioIsNotAskedFor) {
+    rs.ColTh232 = rs.ColU235 = 0;
+    rs.Mean75 = 0.5;
+    ratio(rs.Rat75, {1, 1, 1, 1});
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.SD75, 0);
+    EXPECT_EQ(form.lblSkew5.text, "2.0");
+    EXPECT_EQ(form.lblSkew2.text, "");
+    EXPECT_EQ(form.lblSkew3.text, "");
+}
+
+// Slice 8 rejected: U238 100 with an s.d. of 81.6497, Pb206 70 / 4 = 17.5 with sqrt((7.5^2 + 2.5^2 + 22.5^2 + 32.5^2)
+// / 3) = 23.2737; 1.56057 over the root of 1 / (0.01 100) + 1 / (0.01 17.5) = 2.59119. With the mean of the three
+// slices that count it would be 0.5.
+TEST_F(Express, TheScatterOverCountingStatisticsRestsOnTheLoweredMeans) {
+    rs.RejFlag(8) = 1;
+    rs.SelNGood = 3;
+    calculate();
+    EXPECT_EQ(form.lblExPo68.text, "0.6 x");
+}
+
+TEST_F(Express, WithoutAU235ColumnTheCalculatedU235ChangesNoRatio) {
+    rs.ColU235 = 0;
+    rs.set235_Calc = 1;
+    calculate();
+    EXPECT_NEAR(rs.Mean68, 0.1875, 1e-15);
+    EXPECT_DOUBLE_EQ(rs.Mean75, 0);
+    EXPECT_DOUBLE_EQ(rs.Sig2(u235, 5), 1);
+    EXPECT_EQ(form.lbl235.text, "n. d.");
+}
+
+// The four selected slices are -16 together, the rejected one counted; the mean that is kept is that of the other
+// three over four.
+TEST_F(Express, TheSignOfTheCorrectedPb204CountsRejectedSlicesToo) {
+    form.chkHgCorr.value = 1;
+    rs.BlkMean(hg202) = 9.0;
+    rs.Hg2_4 = 4.5;
+    signal(pb204, {4, 4, 4, -20});  // corrected 2 2 2 -22
+    rs.RejFlag(8) = 1;
+    rs.SelNGood = 3;
+    calculate();
+    EXPECT_TRUE(forms.frm2_Time.lblHgCorrNegative.visible);
+    EXPECT_DOUBLE_EQ(rs.CpsMean(pb204), 6 / 4.0);
+}
+
+TEST_F(Express, TheCommonLeadBoxChangesNoNumber) {
+    calculate();
+    const double pb206_cps = rs.CpsMean(pb206);
+    form.chkCommLead.value = 1;
+    rs.setComm_Pb = 1;
+    calculate();
+    EXPECT_NEAR(rs.Mean68, 0.1875, 1e-15);
+    EXPECT_DOUBLE_EQ(rs.CpsMean(pb206), pb206_cps);
+}
+
+TEST_F(Express, TheAgesRestOnTheMeansWhateverTheResultsAreBasedOn) {
+    rs.setMean_UP = 1;
+    rs.setAver = 1;
+    calculate();
+    EXPECT_EQ(form.lblAge06_38.text, "1108");  // of 0.1875; the median 0.2 would give 1175
+}
+
 TEST_F(Express, TooShortIntervalsAreToldAndNothingChanges) {
     calculate();
     rs.SelUpp = 5;
@@ -313,6 +386,23 @@ TEST_F(Express, TheButtonsOfTheResultsBecomeUsable) {
     rs.Method = 1;
     calculate();
     EXPECT_TRUE(form.cmdCopySel.enabled);
+}
+
+// A new file without intervals had hidden them, in a window that stays open.
+TEST_F(Express, WithTheButtonComeTheControlsOfTheOutlierTest) {
+    for (const int shown : {0, 1}) {
+        form.chkShowSD.value = shown;
+        for (Control* control : std::initializer_list<Control*>{&form.cmdReject, &form.chkShowSD, &form.txtSD,
+                                                                &form.lblReject, &form.lblOM})
+            control->visible = false;
+        calculate();
+        EXPECT_TRUE(form.chkShowSD.visible && form.txtSD.visible);
+        EXPECT_EQ(form.lblReject.visible, shown == 1);
+        EXPECT_EQ(form.lblOM.visible, shown == 1);
+    }
+    form.lblReject.visible = form.lblOM.visible = false;  // by a click that undid a rejection
+    calculate();
+    EXPECT_FALSE(form.lblReject.visible || form.lblOM.visible);
 }
 
 // x = 207/235 age over 206/238 age, set through the means of a two-valued selection.
