@@ -54,7 +54,8 @@ void activate_uranium_lead(Context& context) {
     RunState& rs = context.rs;
     Frm1Settings& form = context.forms.frm1_Settings;
     show_panel(form, form.pict_UT, "Kolv-AGE  -  Start window");
-    form.cmdOK1.visible = true;
+    // The last two are out of sight when the window comes from the panel of the internal standards.
+    show({&form.cmdOK1, &form.cmdChooseUP, &form.cmdPaste1}, true);
     form.lblUP.text = rs.DataFileName;
     form.lblUPset.text = rs.SettingsName;
     const bool undecided = rs.SeqMode.is_text() || rs.SeqMode.is_unset();
