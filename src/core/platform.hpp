@@ -43,6 +43,8 @@ public:
     virtual bool open_document(const std::string& path) = 0;
     virtual DateTime now() = 0;
     virtual std::string decimal_sign() = 0;
+    // A long calculation tells how far it is; done == all ends it.
+    virtual void progress(int /*done*/, int /*all*/) {}
     // How many of these bytes the disk takes; fewer than wanted is a full disk.
     virtual std::size_t room_on_disk(std::size_t wanted) { return wanted; }
 };

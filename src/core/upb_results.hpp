@@ -30,6 +30,14 @@ struct UpbResults {
     // Work tables of the median, by slice; they keep what earlier passes left.
     Table1<double> MedianWork{MaxSlices}, MedianSorted{MaxSlices};
 
+    // The refinement of the selection: half width of the band in slices, offsets under trial, the two measures of the
+    // trial limits, those of the limits that the scan began with, relative gains, and the greatest sum of gains so far.
+    int ZizzSteps = 0, ZizzDLow = 0, ZizzDUpp = 0;
+    double ZizzVal1 = 0, ZizzVal2 = 0, ZizzRef1 = 0, ZizzRef2 = 0, ZizzGain1 = 0, ZizzGain2 = 0, ZizzBest = 0;
+    // By slice: values in upward order and their probabilities in a normal distribution; they keep what earlier passes
+    // and files left.
+    Table1<double> Sorted1{MaxSlices}, Sorted2{MaxSlices}, NormP1{MaxSlices}, NormP2{MaxSlices};
+
     int OutlierN = 0;  // slices of the selection with an outlier
 
     bool NoHead = false;         // the export leaves title and heads out

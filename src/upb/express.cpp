@@ -142,22 +142,20 @@ void show_ratios(const RunState& rs, Frm2UP& form) {
     if (rs.ColU235 != 0) form.lbl8_5.text = with_error(rs.Mean85, rs.Err85);
 }
 
-double skewness(const RunState& rs, const RatioFields& ratio) {
+double skewness_of(const RunState& rs, const RatioFields& ratio) {
     const double mean = rs.*ratio.mean;
-    const double sum = sum_counted(rs, [&](int t) {
+    const double cubes = sum_counted(rs, [&](int t) {
         const double off = (rs.*ratio.slices)(t)-mean;
         return off * off * off;
     });
-    const double n = rs.SelNGood;
-    const double sd = rs.*ratio.sd;
-    return quotient(n * sum, (n - 1) * (n - 2) * (sd * sd * sd));
+    return skewness(cubes, rs.SelNGood, rs.*ratio.sd);
 }
 
 // All are known before one is shown: where a ratio is constant none of the labels changes.
 void show_skewness(const RunState& rs, Frm2UP& form) {
     std::array<std::string, ratio_count> texts;
     for (std::size_t k = 0; k < texts.size(); ++k)
-        if (ratio_fields()[k].measured(rs)) texts[k] = Format(skewness(rs, ratio_fields()[k]), "0.0");
+        if (ratio_fields()[k].measured(rs)) texts[k] = Format(skewness_of(rs, ratio_fields()[k]), "0.0");
     for (int k = 0; k < ratio_count; ++k)
         if (ratio_fields()[static_cast<std::size_t>(k)].measured(rs))
             form.ratio_row(k).skewness.text = texts[static_cast<std::size_t>(k)];
@@ -257,6 +255,8 @@ bool intervals_long_enough(Context& context) {
 }
 
 }  // namespace
+
+double skewness(double cubes, double n, double sd) { return quotient(n * cubes, (n - 1) * (n - 2) * (sd * sd * sd)); }
 
 std::optional<double> hg204_of_blank(const RunState& rs) {
     const std::array<const Value*, 5> ratios{&rs.Hg8_4, &rs.Hg9_4, &rs.Hg0_4, &rs.Hg1_4, &rs.Hg2_4};

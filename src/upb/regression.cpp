@@ -1,17 +1,14 @@
 #include "upb/regression.hpp"
 
-#include <algorithm>
 #include <cstddef>
-#include <vector>
 
 #include "core/numbers.hpp"
 #include "upb/ratio_fields.hpp"
+#include "upb/sorted_slices.hpp"
 
 namespace kolvar {
 
 namespace {
-
-constexpr double sentinel = 1000000000;  // above every ratio
 
 double tzero_value(const RunState& rs, const LineFit& line, double former) {
     const double kind = rs.setTzero.val();
@@ -30,27 +27,6 @@ double residual_sd(const RunState& rs, const RatioFields& ratio) {
         sum += off * off;
     }
     return root(quotient(sum, rs.SelNGood - 1));
-}
-
-// The values that the middle of the selection is found among, at the places of the slices: the smallest first. While
-// outliers are rejected their places keep what stood there before, and the smallest of all values fill the others.
-void sort_ratios(RunState& rs, const Table1<double>& ratio) {
-    const int low = rs.SelLow.val();
-    const int upp = rs.SelUpp.val();
-    std::vector<int> ascending;
-    for (int t = low; t <= upp; ++t) {
-        rs.MedianWork(t) = ratio(t);
-        if (ratio(t) < sentinel) ascending.push_back(t);
-    }
-    std::stable_sort(ascending.begin(), ascending.end(), [&](int a, int b) { return ratio(a) < ratio(b); });
-    auto next = ascending.begin();
-    for (int i = low; i <= upp; ++i) {
-        if (rs.RejFlag(i) == 1) continue;
-        rs.MedianSorted(i) = sentinel;
-        if (next == ascending.end()) continue;
-        rs.MedianSorted(i) = ratio(*next);
-        rs.MedianWork(*next++) = sentinel;  // taken
-    }
 }
 
 }  // namespace
@@ -128,7 +104,8 @@ void median_UP(RunState& rs) {
     const int half = rs.SelN.val() / 2;
     const int low = rs.SelLow.val();
     for (const RatioFields& ratio : ratio_fields()) {
-        sort_ratios(rs, rs.*ratio.slices);
+        // While outliers are rejected their places keep what stood there before.
+        sort_slices(rs, rs.*ratio.slices, rs.MedianSorted, true);
         const bool even = rs.SelN.val() % 2 == 0;
         rs.*ratio.median =
             even ? (rs.MedianSorted(low + half - 1) + rs.MedianSorted(low + half)) / 2 : rs.MedianSorted(low + half);
