@@ -85,6 +85,27 @@ void show_refinement(RunState& rs, Frm2UP& form) {
     form.chkBzzPrompt.set_value_quietly(rs.setBzz_Prompt.val() == 1 ? 1 : 0);
 }
 
+// A window that comes up shows nothing of the file before: what is measured is filled in by the first drawing.
+void clear_results(const RunState& rs, Frm2UP& form) {
+    for (int k = 0; k < ratio_count; ++k) {
+        const Frm2UP::RatioRow row = form.ratio_row(k);
+        for (Label* label :
+             {&row.mean, &row.median, &row.tzero, &row.poisson, &row.skewness, &row.slope, &row.correlation})
+            label->text.clear();
+    }
+    for (Label* label : {&form.lbl8_5,    &form.lbl238,    &form.lbl235,      &form.lbl232,      &form.lbl208,
+                         &form.lbl207,    &form.lbl206,    &form.lbl204,      &form.lblAver(8),  &form.lbl238LoD,
+                         &form.lbl235LoD, &form.lbl232LoD, &form.lbl208LoD,   &form.lbl207LoD,   &form.lbl206LoD,
+                         &form.lbl204LoD, &form.lbl20xLoD, &form.lblAge06_38, &form.lblAge07_35, &form.lblConcord1})
+        label->text.clear();
+    if (!all_limits_set(rs)) form.lblConcord1.back.reset();
+    if (rs.RejectOn) return;
+    form.lblOM.text.clear();
+    form.cmdReject.text = "Reject outliers";
+    form.lblReject.text = "No. of outliers:";
+    emphasise_rejection(form, false);
+}
+
 // Of mean, median and T-zero value the one that the results are based on is shown.
 void show_kind_of_result(RunState& rs, Frm2UP& form) {
     const bool tzero = rs.setAver.val() == 1;
@@ -177,6 +198,7 @@ void open_up_window(Context& context) {
     (rs.LinearView ? form.optLi : form.optLo).set_value_quietly(1);
     (rs.setLinearRatios.val() == 1 ? form.optLiR : form.optLoR).set_value_quietly(1);
 
+    clear_results(rs, form);
     show_ratio_boxes(rs, form);
     show_signals(rs, form);
     show_diagram(rs, form);
