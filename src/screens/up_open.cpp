@@ -218,7 +218,6 @@ void open_up_window(Context& context) {
     form.VScroll3.minimum = 5, form.VScroll3.maximum = 20;
     form.VScroll3.set_value_quietly(20);
     rs.RatioScale = 20;
-    draw_UP(context);
     // A window that is shown has had its first resize.
     if (rs.ShowFirst == "elso") resize_up_window(context);
 }
