@@ -168,6 +168,18 @@ TEST_F(UraniumLeadFiles, WithoutTheThreeImportLinesOfTheExampleNoneIsLoaded) {
     }
 }
 
+TEST_F(UraniumLeadFiles, TheCopyButtonOfASequenceCopiesTheHeadsToo) {
+    start();
+    choose_file("Pb206,Pb207,Pb208,U238");
+    rs().setPasteDat = 0;
+    click(screen(), "cmdCopyMas");
+    const std::string of_sequence = os.clip;
+    EXPECT_TRUE(of_sequence.starts_with("Kolvar export\t202\t")) << of_sequence;
+    EXPECT_NE(of_sequence.find("\rspot.csv\t"), std::string::npos);
+    click(screen(), "cmdCopyHead");
+    EXPECT_EQ(os.clip, of_sequence);
+}
+
 TEST_F(UraniumLeadFiles, TheExitsOfBothPanelsEndTheProgram) {
     start();
     click(panel(), "cmdExitUP");
