@@ -25,6 +25,8 @@ void show(std::initializer_list<Control*> controls, bool visible) {
 void show_limits(RunState& rs, Frm2UP& form) {
     const bool blank_of_data = rs.BlankFromData == 1 && rs.ModeCreateBLK != 1;
     form.lblBLKshow.visible = form.lblBLKtolig.visible = blank_of_data;
+    // There is nothing to copy before a selection of these data has results; the drawing brings the buttons back.
+    form.cmdCopyHead.enabled = form.cmdCopy.enabled = form.cmdApp.enabled = form.cmdCopySel.enabled = false;
     if (!blank_of_data && rs.SelN.val() != 0)
         form.cmdCopyHead.enabled = form.cmdCopy.enabled = form.cmdApp.enabled = true;
     form.lblMeasTot.text = std::to_string(rs.nSlices);
