@@ -435,17 +435,19 @@ TEST_F(Express, TheColourOfTheConcordanceHasStepsAndGaps) {
     }
 }
 
-// Both means are 0.6487212707001282, whose logarithm of 1 + m is 0.5; with decay constants x and 1 the ages then stand
-// as x exactly.
+// Both means are 0.6487212707001282, whose logarithm of 1 + m is 0.5; with decay constants that stand as x to 1 the
+// ages then do, exactly; for 0.9 and 0.95 it takes whole numbers.
 TEST_F(Express, TheStepsOfTheConcordanceHoldTheirBounds) {
     struct Step {
         double x;
         std::optional<Colour> colour;
+        double lambda238 = 0, lambda235 = 1;
     };
-    const Step steps[] = {{0.85, rgb(255, 128, 128)},    {0.89999, rgb(255, 128, 128)}, {0.9, rgb(255, 192, 192)},
-                          {0.94999, rgb(255, 192, 192)}, {0.95, rgb(255, 255, 255)},    {1.04999, rgb(255, 255, 255)},
-                          {1.05, rgb(192, 192, 255)},    {1.09999, rgb(192, 192, 255)}, {1.1, std::nullopt},
-                          {1.10001, rgb(128, 128, 255)}, {1.14999, rgb(128, 128, 255)}, {1.15, std::nullopt}};
+    const Step steps[] = {
+        {0.85, rgb(255, 128, 128)},    {0.89999, rgb(255, 128, 128)},        {0.9, rgb(255, 192, 192), 45, 50},
+        {0.94999, rgb(255, 192, 192)}, {0.95, rgb(255, 255, 255), 209, 220}, {1.04999, rgb(255, 255, 255)},
+        {1.05, rgb(192, 192, 255)},    {1.09999, rgb(192, 192, 255)},        {1.1, std::nullopt},
+        {1.10001, rgb(128, 128, 255)}, {1.14999, rgb(128, 128, 255)},        {1.15, std::nullopt}};
     const double mean = 0.6487212707001282;
     ASSERT_EQ(std::log(1 + mean), 0.5);
     rs.ColTh232 = 0;
@@ -453,9 +455,9 @@ TEST_F(Express, TheStepsOfTheConcordanceHoldTheirBounds) {
     signal(u235, {1, 1, 1, 1});
     signal(pb206, {mean - 0.125, mean + 0.125, mean - 0.125, mean + 0.125});
     signal(pb207, {mean + 0.125, mean - 0.125, mean + 0.125, mean - 0.125});
-    rs.Lambda235 = 1;
     for (const Step& step : steps) {
-        rs.Lambda238 = step.x;
+        rs.Lambda238 = step.lambda238 == 0 ? step.x : step.lambda238;
+        rs.Lambda235 = step.lambda235;
         form.lblConcord1.back = rgb(1, 2, 3);
         calculate();
         ASSERT_EQ(rs.Age75 / rs.Age68, step.x);
