@@ -177,6 +177,10 @@ void show_unrecognised(RunState& rs, Frm2UP& form) {
     for (const std::string& head : heads) form.lblStatus.text += " " + (head.empty() ? std::string("(no name)") : head);
     if (rs.Method == 1)
         form.lblStatus.text += ".  Accepted forms: U238   U-238   U 238   238U   238-U  238 U  U238(LR)   U238(HR)";
+    if (rs.Method != 3) return;
+    form.lblStatus.text += ".  Accepted names:";
+    for (int slot = 1; slot <= MaxFlex; ++slot)
+        if (const std::string name = rs.FlexIso(slot).text(); !name.empty()) form.lblStatus.text += " " + name;
 }
 
 }  // namespace
