@@ -388,6 +388,46 @@ TEST_F(Express, TheButtonsOfTheResultsBecomeUsable) {
     EXPECT_TRUE(form.cmdCopySel.enabled);
 }
 
+// Relative scatters: U238 0.385, U235 0.385, Th232 nothing, Pb208 0.516, Pb207 0.682, Pb206 0.609.
+TEST_F(Express, EachScatterIsComparedWithTheDwellTimesOfItsTwoIsotopes) {
+    rs.dweU238 = 0.01;
+    rs.dweU235 = 1.0;
+    rs.dweTh232 = 0.04;
+    rs.dwePb208 = 0.1;
+    rs.dwePb207 = 2.0;
+    rs.dwePb206 = 0.5;
+    calculate();
+    EXPECT_EQ(form.lblExPo68.text, "0.8 x");   // 0.720 / 0.856
+    EXPECT_EQ(form.lblExPo75.text, "0.9 x");   // 0.783 / 0.906
+    EXPECT_EQ(form.lblExPo82.text, "0.5 x");   // 0.516 / 1.140
+    EXPECT_EQ(form.lblExPo382.text, "0.4 x");  // 0.385 / 1.080
+    EXPECT_EQ(form.lblExPo76.text, "1.9 x");   // 0.914 / 0.470
+}
+
+TEST_F(Express, TheHighestRatioIsNeverBelowZero) {
+    rs.ColU235 = 0;
+    ratio(rs.Rat75, {-0.5, -0.25, -0.5, -0.75});  // of an earlier file
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.Max75.number(), 0);
+    EXPECT_DOUBLE_EQ(rs.Min75.number(), -0.75);
+}
+
+TEST_F(Express, ABlankOfTwoSlicesIsEnough) {
+    rs.BlkUpp = 2;
+    calculate();
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_NEAR(rs.Mean68, 0.1875, 1e-15);
+}
+
+TEST_F(Express, OnTheFlexPathNoMercuryIsTakenOff) {
+    rs.Method = 3;
+    form.chkHgCorr.value = 1;
+    rs.BlkMean(hg202) = 9.0;
+    rs.Hg2_4 = 4.5;
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.Sig2(pb204, 5), 4);
+}
+
 // A new file without intervals had hidden them, in a window that stays open.
 TEST_F(Express, WithTheButtonComeTheControlsOfTheOutlierTest) {
     for (const int shown : {0, 1}) {

@@ -156,6 +156,12 @@ TEST_F(Regression, BelowThreeSlicesEverythingStays) {
     EXPECT_EQ(form.lblLR1b.text, "2.200");
 }
 
+TEST_F(Regression, ThreeSlicesAreEnough) {
+    select(5, 7);
+    Lin_Regr_UP(context);
+    EXPECT_DOUBLE_EQ(rs.Slope68, 1.5);  // 2 4 5
+}
+
 TEST_F(Regression, AMissingRatioKeepsItsLineButGetsResidualsAboutIt) {
     rs.ColU235 = 0;
     rs.Slope75 = 0;
