@@ -103,6 +103,13 @@ void clear_results(RunState& rs) {
     rs.Err68 = rs.Err75 = rs.Err82 = rs.Err382 = rs.Err76 = 0;
 }
 
+// Clearing has emptied the names of all columns; only a table that was read to its end has them again.
+bool read_to_its_end(const RunState& rs) {
+    for (int i = 1; i <= rs.nIso; ++i)
+        if (!rs.IsoCanon(i).empty()) return true;
+    return false;
+}
+
 }  // namespace
 
 void ClearData(RunState& rs) {
@@ -241,6 +248,13 @@ bool ChooseDataFile(Context& context, const std::string& folder) {
     rs.DataFileName = file_name(rs.SetFilePath);
     ClearData(rs);
     load_by_ending(context);
+    // The screen of ratios comes up all the same; it must not show results of a table that could not be read.
+    if ((rs.Method == 1 || rs.Method == 3) && !read_to_its_end(rs)) {
+        rs.RejectOn = false;
+        rs.RejFlag.fill(0);
+        drop_intervals(rs);
+        clear_results(rs);
+    }
     return true;
 }
 

@@ -73,16 +73,15 @@ void draw_UP(Context& context) {
     plot::show_former_selection(rs, form);
 
     const NiceEnd end = plot::take_upper_scale(rs, form, highest_signal_by_role(rs));
+    if (rs.LinearView) plot::draw_linear_divisions(form, rs.ScaleStep);
+    draw_signals(rs, form, end.maximum);
     if (rs.LinearView) {
-        plot::draw_linear_divisions(form, rs.ScaleStep);
         plot::show_maximum(form.pict1, form.lblMaxCps, Format(rs.MaxCps, "0"));
-        form.lblMaxCps2.visible = true;
     } else {
         if (end.maximum > 1) plot::draw_decades(form, end.maximum, false);
         plot::hide_label(canvas, form.lblMaxCps);
-        form.lblMaxCps2.visible = false;
     }
-    draw_signals(rs, form, end.maximum);
+    form.lblMaxCps2.visible = rs.LinearView;
     if (all_limits_set(rs)) draw_UPratio(context);
 }
 

@@ -25,6 +25,8 @@ void show(std::initializer_list<Control*> controls, bool visible) {
 void show_limits(RunState& rs, Frm2UP& form) {
     const bool blank_of_data = rs.BlankFromData == 1 && rs.ModeCreateBLK != 1;
     form.lblBLKshow.visible = form.lblBLKtolig.visible = blank_of_data;
+    // There is nothing to copy before a selection of these data has results; the drawing brings the buttons back.
+    form.cmdCopyHead.enabled = form.cmdCopy.enabled = form.cmdApp.enabled = form.cmdCopySel.enabled = false;
     if (!blank_of_data && rs.SelN.val() != 0)
         form.cmdCopyHead.enabled = form.cmdCopy.enabled = form.cmdApp.enabled = true;
     form.lblMeasTot.text = std::to_string(rs.nSlices);
@@ -83,6 +85,27 @@ void show_refinement(RunState& rs, Frm2UP& form) {
         fill_list(form.Combo7, {"Wetherill", "Tera-Wasserburg"}, rs.setBzzPlot);
     fill_list(form.Combo8, {"RMS", "Skewness"}, rs.setBzzMethod);
     form.chkBzzPrompt.set_value_quietly(rs.setBzz_Prompt.val() == 1 ? 1 : 0);
+}
+
+// A window that comes up shows nothing of the file before: what is measured is filled in by the first drawing.
+void clear_results(const RunState& rs, Frm2UP& form) {
+    for (int k = 0; k < ratio_count; ++k) {
+        const Frm2UP::RatioRow row = form.ratio_row(k);
+        for (Label* label :
+             {&row.mean, &row.median, &row.tzero, &row.poisson, &row.skewness, &row.slope, &row.correlation})
+            label->text.clear();
+    }
+    for (Label* label : {&form.lbl8_5,    &form.lbl238,    &form.lbl235,      &form.lbl232,      &form.lbl208,
+                         &form.lbl207,    &form.lbl206,    &form.lbl204,      &form.lblAver(8),  &form.lbl238LoD,
+                         &form.lbl235LoD, &form.lbl232LoD, &form.lbl208LoD,   &form.lbl207LoD,   &form.lbl206LoD,
+                         &form.lbl204LoD, &form.lbl20xLoD, &form.lblAge06_38, &form.lblAge07_35, &form.lblConcord1})
+        label->text.clear();
+    if (!all_limits_set(rs)) form.lblConcord1.back.reset();
+    if (rs.RejectOn) return;
+    form.lblOM.text.clear();
+    form.cmdReject.text = "Reject outliers";
+    form.lblReject.text = "No. of outliers:";
+    emphasise_rejection(form, false);
 }
 
 // Of mean, median and T-zero value the one that the results are based on is shown.
@@ -154,6 +177,10 @@ void show_unrecognised(RunState& rs, Frm2UP& form) {
     for (const std::string& head : heads) form.lblStatus.text += " " + (head.empty() ? std::string("(no name)") : head);
     if (rs.Method == 1)
         form.lblStatus.text += ".  Accepted forms: U238   U-238   U 238   238U   238-U  238 U  U238(LR)   U238(HR)";
+    if (rs.Method != 3) return;
+    form.lblStatus.text += ".  Accepted names:";
+    for (int slot = 1; slot <= MaxFlex; ++slot)
+        if (const std::string name = rs.FlexIso(slot).text(); !name.empty()) form.lblStatus.text += " " + name;
 }
 
 }  // namespace
@@ -177,6 +204,7 @@ void open_up_window(Context& context) {
     (rs.LinearView ? form.optLi : form.optLo).set_value_quietly(1);
     (rs.setLinearRatios.val() == 1 ? form.optLiR : form.optLoR).set_value_quietly(1);
 
+    clear_results(rs, form);
     show_ratio_boxes(rs, form);
     show_signals(rs, form);
     show_diagram(rs, form);
@@ -196,7 +224,6 @@ void open_up_window(Context& context) {
     form.VScroll3.minimum = 5, form.VScroll3.maximum = 20;
     form.VScroll3.set_value_quietly(20);
     rs.RatioScale = 20;
-    draw_UP(context);
     // A window that is shown has had its first resize.
     if (rs.ShowFirst == "elso") resize_up_window(context);
 }

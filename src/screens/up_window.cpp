@@ -1,6 +1,8 @@
 #include "screens/up_window.hpp"
 
 #include <array>
+#include <memory>
+#include <utility>
 
 #include "core/files.hpp"
 #include "core/numbers.hpp"
@@ -168,8 +170,16 @@ void connect_refinement(Program& program) {
 void connect_up_window(Program& program) {
     Context& context = program.context();
     Frm2UP& form = context.forms.frm2_UP;
-    program.shell().set_hooks(form,
-                              {[&context] { open_up_window(context); }, [&context] { activate_up_window(context); }});
+    // Drawn when it stands on the screen: where its figures end in a fault, the window is there to mark others.
+    const auto fresh = std::make_shared<bool>(false);
+    program.shell().set_hooks(form, {[&context, fresh] {
+                                         open_up_window(context);
+                                         *fresh = true;
+                                     },
+                                     [&context, fresh] {
+                                         activate_up_window(context);
+                                         if (std::exchange(*fresh, false)) draw_UP(context);
+                                     }});
     connect_plots(program);
     connect_refinement(program);
 

@@ -47,14 +47,16 @@ LineFit fit_line(std::span<const double> values, std::span<const int> flags, int
         syy += y * y;
         sxy += x * y;
     }
-    const double spread_x = n * sxx - sx * sx;
-    const double together = n * sxy - sy * sx;
     LineFit line;
-    line.slope = quotient(together, spread_x);
+    line.together = n * sxy - sy * sx;
+    line.spread_x = n * sxx - sx * sx;
+    line.spread_y = n * syy - sy * sy;
+    line.slope = quotient(line.together, line.spread_x);
     line.intercept = quotient(sy - line.slope * sx, n);
-    line.correlation = quotient(together, root(spread_x * (n * syy - sy * sy)));
     return line;
 }
+
+double LineFit::correlation() const { return quotient(together, root(spread_x * spread_y)); }
 
 double shown_error(const RunState& rs, double sd, double value, double former) {
     const double kind = rs.setErr.val();
@@ -80,11 +82,11 @@ void Lin_Regr_UP(Context& context) {
         const LineFit line = fit_line((rs.*ratio.slices).range(low, upp), rs.RejFlag.range(low, upp), low, rs.SelNGood);
         rs.*ratio.slope = line.slope;
         rs.*ratio.intercept = line.intercept;
-        rs.*ratio.correlation = line.correlation;
+        rs.*ratio.correlation = line.correlation();  // a constant ratio has a line, but none
         rs.*ratio.tzero = tzero_value(rs, line, rs.*ratio.tzero);
         const Frm2UP::RatioRow row = form.ratio_row(k);
         row.slope.text = Format(line.slope, "0.000");
-        row.correlation.text = Format(line.correlation, "0.000");
+        row.correlation.text = Format(rs.*ratio.correlation, "0.000");
     }
     // Also of a ratio that isn't measured: its residuals lie about the line of an earlier file.
     for (const RatioFields& ratio : ratio_fields()) rs.*ratio.residual_sd = residual_sd(rs, ratio);

@@ -8,10 +8,12 @@
 namespace kolvar {
 
 // Least-squares line through the points (first, values[0]), (first + 1, values[1]), ... of which those count whose
-// flag is below 1; `n` is their number. Fault(division_by_zero) when the points have one place only, or a constant
-// value (correlation).
+// flag is below 1; `n` is their number. Fault(division_by_zero) when the points have one place only; for a constant
+// value only the correlation is one.
 struct LineFit {
-    double slope = 0, intercept = 0, correlation = 0;
+    double slope = 0, intercept = 0;
+    double together = 0, spread_x = 0, spread_y = 0;  // n^2 times covariance and variances
+    [[nodiscard]] double correlation() const;
 };
 LineFit fit_line(std::span<const double> values, std::span<const int> flags, int first, double n);
 

@@ -114,7 +114,7 @@ class Panel:
             self.median[key] = places[middle] if n % 2 else (places[middle - 1] + places[middle]) / 2
         self.places = places
         self.skew = {k: good * sum((r[t] - self.mean[k]) ** 3 for t in counted) / (
-            (good - 1) * (good - 2) * self.sd[k] ** 3) for k, r in self.ratio.items()}
+            (good - 1) * (good - 2) * self.sd[k] ** 3) for k, r in self.ratio.items() if k in ORDER}
         self.fit(counted, good)
         self.age68 = math.log(1 + self.mean["6_8"]) / LAMBDA_238
         self.age75 = math.log(1 + self.mean["7_5"]) / LAMBDA_235 if "7_5" in self.ratio else 0.0
@@ -177,7 +177,7 @@ class Panel:
             observed = math.hypot(self.cps_sd[a] / self.cps[a], self.cps_sd[b] / self.cps[b])
             counting = math.sqrt(abs(1 / (DWELL[a] * self.cps[a]) + 1 / (DWELL[b] * self.cps[b])))
             out["lblExPo" + STATE[key]] = fixed(observed / counting, 1) + " x"
-        hg = self.hg or next((name for name in self.table if name.startswith("Hg")), None)
+        hg = self.hg or next((f"Hg{m}" for m in range(202, 197, -1) if self.has(f"Hg{m}")), None)
         for name, mass in SIGNALS.items():
             out["lbl" + mass] = grouped(self.cps[name]) if self.has(name) else "n. d."
             if self.has(name):
@@ -211,3 +211,19 @@ class Panel:
         if only is None:
             lines.append(f"expect frm2_UP.lblConcord1 back {self.colour()}")
         return lines
+
+
+def main():
+    table = read(sys.argv[1])
+    print("# Means and T-zero values with two standard deviations.")
+    print("\n".join(Panel(table).expectations()))
+    found = Panel(table, tested=["6_8", "8_2", "7_6"])
+    print("# Outliers rejected, after one drawing with all slices.")
+    print("\n".join(Panel(table, flags=found.outliers(), former=found.places).expectations()))
+    if "Hg202" in table:
+        print("# Pb204 less the Hg of the blank.")
+        print("\n".join(Panel(table, hg="Hg202").expectations()))
+
+
+if __name__ == "__main__":
+    main()

@@ -86,6 +86,15 @@ TEST_F(DefaultFile, IsWrittenAsItWasRead) {
     EXPECT_TRUE(os.boxes.empty());
 }
 
+TEST_F(DefaultFile, TheTextsOfTheKeysPlayNoPart) {
+    std::string bytes = replaced(two_standards(), "\"setErr \"", "\"setTzero\"");
+    bytes = replaced(bytes, "\"setNumSTD\"", "\"\"");
+    bytes = replaced(bytes, "\"Method\"", "\"setErr \"");
+    read(bytes);
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_EQ(written(), two_standards());
+}
+
 TEST_F(DefaultFile, WithoutStandardsTheLinesBehindThemMoveUp) {
     std::string bytes = replaced(two_standards(), "2,\"setNumSTD\"", "0,\"setNumSTD\"");
     const std::size_t first = bytes.find("\"Std 1\"");

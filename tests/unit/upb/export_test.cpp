@@ -94,6 +94,13 @@ TEST_F(Export, WithoutAMercuryIsotopeTheBlankOfItsFormerColumnIsPrinted) {
     EXPECT_TRUE(copied(true).starts_with("spot.csv\t8\t0\t--204\t"));
 }
 
+TEST_F(Export, AMercuryRatioOfZeroIsAFaultOfTheMajorDataAlone) {
+    rs.Hg2_4 = 0;
+    EXPECT_TRUE(copied(true).starts_with("spot.csv\t7 Jan. 2009\t"));
+    rs.setPasteDat = 0;
+    EXPECT_THROW(copied(true), Fault);
+}
+
 // ---- all data
 
 const std::string full_title =
@@ -171,6 +178,17 @@ TEST_F(Export, ASingleCountedSliceHasNoStandardError) {
     rs.SelNGood = 1;
     EXPECT_THROW(copied(true), Fault);
     EXPECT_FALSE(rs.NoHead);
+}
+
+// Without U235 and Th232 column 0 and the ratios of the file before are read, and nobody is told.
+TEST_F(Export, ColumnsThatAreMissingPrintColumnZeroAndWhatTheirRatiosHeld) {
+    rs.ColU235 = rs.ColTh232 = 0;
+    EXPECT_EQ(copied(true),
+              "spot.csv\t7 Jan. 2009\t1 to 3\t5 to 8\tmean\t2.5\tno\t0.1000\t0.8000\t0.0300\t2.5000\t0.0600\t" +
+                  errors_of_means +
+                  "100\t0\t0\t400\t500\t600\t700\t800\t10\t0\t0\t40\t50\t60\t70\t80\t20\t0\t0\t80\t100\t120\t140\t160"
+                  "\t2\t0\t0\t4\t6\t6\t8\t8\t2\t0\t0\t8\t10\t12\t14\t16\t");
+    EXPECT_TRUE(os.boxes.empty());
 }
 
 TEST_F(Export, AnyOtherLayoutCopiesAnEmptyLine) {

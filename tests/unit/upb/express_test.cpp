@@ -388,6 +388,46 @@ TEST_F(Express, TheButtonsOfTheResultsBecomeUsable) {
     EXPECT_TRUE(form.cmdCopySel.enabled);
 }
 
+// Relative scatters: U238 0.385, U235 0.385, Th232 nothing, Pb208 0.516, Pb207 0.682, Pb206 0.609.
+TEST_F(Express, EachScatterIsComparedWithTheDwellTimesOfItsTwoIsotopes) {
+    rs.dweU238 = 0.01;
+    rs.dweU235 = 1.0;
+    rs.dweTh232 = 0.04;
+    rs.dwePb208 = 0.1;
+    rs.dwePb207 = 2.0;
+    rs.dwePb206 = 0.5;
+    calculate();
+    EXPECT_EQ(form.lblExPo68.text, "0.8 x");   // 0.720 / 0.856
+    EXPECT_EQ(form.lblExPo75.text, "0.9 x");   // 0.783 / 0.906
+    EXPECT_EQ(form.lblExPo82.text, "0.5 x");   // 0.516 / 1.140
+    EXPECT_EQ(form.lblExPo382.text, "0.4 x");  // 0.385 / 1.080
+    EXPECT_EQ(form.lblExPo76.text, "1.9 x");   // 0.914 / 0.470
+}
+
+TEST_F(Express, TheHighestRatioIsNeverBelowZero) {
+    rs.ColU235 = 0;
+    ratio(rs.Rat75, {-0.5, -0.25, -0.5, -0.75});  // of an earlier file
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.Max75.number(), 0);
+    EXPECT_DOUBLE_EQ(rs.Min75.number(), -0.75);
+}
+
+TEST_F(Express, ABlankOfTwoSlicesIsEnough) {
+    rs.BlkUpp = 2;
+    calculate();
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_NEAR(rs.Mean68, 0.1875, 1e-15);
+}
+
+TEST_F(Express, OnTheFlexPathNoMercuryIsTakenOff) {
+    rs.Method = 3;
+    form.chkHgCorr.value = 1;
+    rs.BlkMean(hg202) = 9.0;
+    rs.Hg2_4 = 4.5;
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.Sig2(pb204, 5), 4);
+}
+
 // A new file without intervals had hidden them, in a window that stays open.
 TEST_F(Express, WithTheButtonComeTheControlsOfTheOutlierTest) {
     for (const int shown : {0, 1}) {
@@ -431,6 +471,36 @@ TEST_F(Express, TheColourOfTheConcordanceHasStepsAndGaps) {
             rs.Sig(pb207, t) = 10 * r75 * (2 - off);
         }
         calculate();
+        EXPECT_EQ(form.lblConcord1.back, step.colour.value_or(rgb(1, 2, 3))) << step.x;
+    }
+}
+
+// Both means are 0.6487212707001282, whose logarithm of 1 + m is 0.5; with decay constants that stand as x to 1 the
+// ages then do, exactly; for 0.9 and 0.95 it takes whole numbers.
+TEST_F(Express, TheStepsOfTheConcordanceHoldTheirBounds) {
+    struct Step {
+        double x;
+        std::optional<Colour> colour;
+        double lambda238 = 0, lambda235 = 1;
+    };
+    const Step steps[] = {
+        {0.85, rgb(255, 128, 128)},    {0.89999, rgb(255, 128, 128)},        {0.9, rgb(255, 192, 192), 45, 50},
+        {0.94999, rgb(255, 192, 192)}, {0.95, rgb(255, 255, 255), 209, 220}, {1.04999, rgb(255, 255, 255)},
+        {1.05, rgb(192, 192, 255)},    {1.09999, rgb(192, 192, 255)},        {1.1, std::nullopt},
+        {1.10001, rgb(128, 128, 255)}, {1.14999, rgb(128, 128, 255)},        {1.15, std::nullopt}};
+    const double mean = 0.6487212707001282;
+    ASSERT_EQ(std::log(1 + mean), 0.5);
+    rs.ColTh232 = 0;
+    signal(u238, {1, 1, 1, 1});
+    signal(u235, {1, 1, 1, 1});
+    signal(pb206, {mean - 0.125, mean + 0.125, mean - 0.125, mean + 0.125});
+    signal(pb207, {mean + 0.125, mean - 0.125, mean + 0.125, mean - 0.125});
+    for (const Step& step : steps) {
+        rs.Lambda238 = step.lambda238 == 0 ? step.x : step.lambda238;
+        rs.Lambda235 = step.lambda235;
+        form.lblConcord1.back = rgb(1, 2, 3);
+        calculate();
+        ASSERT_EQ(rs.Age75 / rs.Age68, step.x);
         EXPECT_EQ(form.lblConcord1.back, step.colour.value_or(rgb(1, 2, 3))) << step.x;
     }
 }

@@ -100,6 +100,18 @@ TEST_F(Outliers, AreSoughtAboutTheRegressionLineForResultsAtTZero) {
     EXPECT_EQ(form.lblOM.text, "0 / 4");
 }
 
+TEST_F(Outliers, LieBeyondTheLimitNotAtIt) {
+    form.txtSD.text = "1.5";  // 14 is 3 off, 1.5 s.d.; so is 9 in the other ratio
+    EXPECT_TRUE(test().empty());
+    rs.setAver = 1;
+    form.txtSD.text = "2";
+    rs.setOL_75 = 0;
+    rs.Icpt68 = 5;
+    rs.Slope68 = 1;  // 10 11 12 13: off by 0 1 2 1
+    rs.ResSD68 = 1;
+    EXPECT_TRUE(test().empty());
+}
+
 TEST_F(Outliers, ALimitThatIsNoNumberMakesEveryDeviationOne) {
     form.txtSD.text = "x";
     rs.setOL_75 = 0;

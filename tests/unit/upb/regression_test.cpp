@@ -16,7 +16,7 @@ TEST(FitLine, LeastSquaresOfFourPoints) {
     EXPECT_DOUBLE_EQ(line.slope, 2.2);
     EXPECT_DOUBLE_EQ(line.intercept, (20 - 2.2 * 26) / 4);
     // 44 / sqrt(20 (4 126 - 400)) = 44 / sqrt(2080)
-    EXPECT_NEAR(line.correlation, 0.964763821, 1e-9);
+    EXPECT_NEAR(line.correlation(), 0.964763821, 1e-9);
 }
 
 TEST(FitLine, FlaggedPointsAreLeftOut) {
@@ -26,13 +26,22 @@ TEST(FitLine, FlaggedPointsAreLeftOut) {
     const LineFit line = fit_line(y, flags, 5, 3);
     EXPECT_DOUBLE_EQ(line.slope, 1);
     EXPECT_DOUBLE_EQ(line.intercept, -3);
-    EXPECT_DOUBLE_EQ(line.correlation, 1);
+    EXPECT_DOUBLE_EQ(line.correlation(), 1);
 }
 
 TEST(FitLine, AConstantRatioHasNoCorrelation) {
     const std::array<double, 3> y{2, 2, 2};
     const std::array<int, 3> flags{};
-    EXPECT_THROW(fit_line(y, flags, 1, 3), Fault);
+    const LineFit line = fit_line(y, flags, 1, 3);
+    EXPECT_DOUBLE_EQ(line.slope, 0);
+    EXPECT_DOUBLE_EQ(line.intercept, 2);
+    EXPECT_THROW((void)line.correlation(), Fault);
+}
+
+TEST(FitLine, PointsAtOnePlaceHaveNoLine) {
+    const std::array<double, 3> y{2, 3, 4};
+    const std::array<int, 3> flags{1, 0, 2};
+    EXPECT_THROW(fit_line(y, flags, 1, 1), Fault);
 }
 
 class Regression : public UraniumCase {
@@ -113,6 +122,31 @@ TEST_F(Regression, WithRejectionTheTZeroPositionStaysTheFirstSelectedSlice) {
     EXPECT_NEAR(rs.ResSD68, 0, 1e-12);
 }
 
+// The line of a constant ratio stands, its T-zero value and what follows are those of before.
+TEST_F(Regression, AConstantRatioEndsInAFaultAtItsCorrelation) {
+    ratio(rs.Rat68, {2, 2, 2, 2});
+    rs.Slope68 = rs.Icpt68 = rs.Corr68 = rs.Tz68 = rs.ResSD68 = rs.Slope75 = 9;
+    form.lblLR1b.text = form.lblTz6_8.text = "old";
+    EXPECT_THROW(Lin_Regr_UP(context), Fault);
+    EXPECT_DOUBLE_EQ(rs.Slope68, 0);
+    EXPECT_DOUBLE_EQ(rs.Icpt68, 2);
+    EXPECT_DOUBLE_EQ(rs.Corr68, 9);
+    EXPECT_DOUBLE_EQ(rs.Tz68, 9);
+    EXPECT_DOUBLE_EQ(rs.ResSD68, 9);
+    EXPECT_DOUBLE_EQ(rs.Slope75, 9);
+    EXPECT_EQ(form.lblLR1b.text, "old");
+    EXPECT_EQ(form.lblTz6_8.text, "old");
+}
+
+TEST_F(Regression, TheMedianOfOneToFourOverSlicesFiveToEight) {
+    ratio(rs.Rat68, {3, 1, 4, 2});
+    ratio(rs.Rat76, {3, 1, 4, 2});
+    median_UP(rs);
+    EXPECT_DOUBLE_EQ(rs.Med68, 2.5);
+    EXPECT_DOUBLE_EQ(rs.MedianSorted(6), 2);
+    EXPECT_DOUBLE_EQ(rs.MedianSorted(7), 3);
+}
+
 TEST_F(Regression, BelowThreeSlicesEverythingStays) {
     Lin_Regr_UP(context);
     ratio(rs.Rat68, {1, 2, 4, 9});
@@ -120,6 +154,12 @@ TEST_F(Regression, BelowThreeSlicesEverythingStays) {
     Lin_Regr_UP(context);
     EXPECT_DOUBLE_EQ(rs.Slope68, 2.2);
     EXPECT_EQ(form.lblLR1b.text, "2.200");
+}
+
+TEST_F(Regression, ThreeSlicesAreEnough) {
+    select(5, 7);
+    Lin_Regr_UP(context);
+    EXPECT_DOUBLE_EQ(rs.Slope68, 1.5);  // 2 4 5
 }
 
 TEST_F(Regression, AMissingRatioKeepsItsLineButGetsResidualsAboutIt) {
