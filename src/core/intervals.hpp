@@ -22,7 +22,8 @@ struct Intervals {
     int ClickButton = 0;            // 1 left, 2 right
     int ClickShift = 0;             // 0 no modifier, 1 SHIFT, else other modifiers
 
-    Limit BestLow, BestUpp;  // proposal of the refinement
+    Limit BestLow, BestUpp;    // limits at the start of the last refinement
+    bool TrialLimits = false;  // the limits in force are the last pair that a refinement tried
     double ZizzMin68 = 0, ZizzMin75 = 0;
     bool AcceptBest = false, ZizzRunning = false;
 

@@ -43,10 +43,23 @@ public:
     virtual bool open_document(const std::string& path) = 0;
     virtual DateTime now() = 0;
     virtual std::string decimal_sign() = 0;
+    virtual void wait_cursor(bool /*shown*/) {}
     // A long calculation tells how far it is; done == all ends it.
     virtual void progress(int /*done*/, int /*all*/) {}
     // How many of these bytes the disk takes; fewer than wanted is a full disk.
     virtual std::size_t room_on_disk(std::size_t wanted) { return wanted; }
+};
+
+// The wait cursor stands as long as this does.
+class WaitCursor {
+public:
+    explicit WaitCursor(Platform& os) : os_(os) { os_.wait_cursor(true); }
+    ~WaitCursor() { os_.wait_cursor(false); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    Platform& os_;
 };
 
 }  // namespace kolvar

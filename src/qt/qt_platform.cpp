@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QUrl>
@@ -120,6 +121,31 @@ DateTime QtPlatform::now() {
     const QDateTime now = QDateTime::currentDateTime();
     return {now.date().year(), now.date().month(),  now.date().day(),
             now.time().hour(), now.time().minute(), now.time().second()};
+}
+
+void QtPlatform::wait_cursor(bool shown) {
+    if (shown)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::progress(int done, int all) {
+    if (done >= all) {
+        delete bar_;
+        return;
+    }
+    QWidget* const window = QApplication::activeWindow();
+    if (bar_ == nullptr && window != nullptr) {
+        bar_ = new QProgressBar(window);
+        bar_->setGeometry(window->width() / 4, window->height() - 60, window->width() / 2, 24);
+        bar_->setAutoFillBackground(true);
+        bar_->show();
+    }
+    if (bar_ == nullptr) return;
+    bar_->setMaximum(all);
+    bar_->setValue(done);
+    bar_->repaint();
 }
 
 std::string QtPlatform::decimal_sign() { return utf8(QLocale::system().decimalPoint()); }

@@ -1,6 +1,8 @@
 // The platform services of the desktop: boxes, file dialogs, clipboard, documents, clock.
 #pragma once
 
+#include <QPointer>
+#include <QProgressBar>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +23,12 @@ public:
     bool open_document(const std::string& path) override;
     DateTime now() override;
     std::string decimal_sign() override;
+    void wait_cursor(bool shown) override;
+    // A bar at the lower edge of the window in front, painted at once: no other event is let in.
+    void progress(int done, int all) override;
+
+private:
+    QPointer<QProgressBar> bar_;
 };
 
 // "label|pattern|label|pattern..." as name filters of a Qt dialog, in the same order. A last label without a pattern

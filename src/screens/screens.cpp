@@ -7,6 +7,7 @@ void connect_screens(Program& program) {
     connect_report_windows(program);
     connect_time_window(program);
     connect_up_window(program);
+    connect_refinement(program);
     connect_uranium_lead_reports(program);
     connect_matrix_window(program);
     connect_output_windows(program);

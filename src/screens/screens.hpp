@@ -12,6 +12,7 @@ void connect_settings_window(Program& program);
 void connect_report_windows(Program& program);
 void connect_time_window(Program& program);
 void connect_up_window(Program& program);
+void connect_refinement(Program& program);
 void connect_uranium_lead_reports(Program& program);
 void connect_matrix_window(Program& program);
 void connect_output_windows(Program& program);

@@ -48,10 +48,13 @@ void forget_proposal(Frm2UP& form) {
 
 bool shows_text(const Label& label) { return label.visible && !label.text.empty(); }
 
-// The user overrides a proposal of the refinement that was not accepted: the limits that the search started from
-// become the selection, which the click then changes.
+// The user overrides a refinement that was not accepted, or one that found nothing: the limits that the search started
+// from become the selection, which the click then changes.
 void take_over_stale_proposal(RunState& rs, Frm2UP& form) {
-    if (rs.AcceptBest || (!shows_text(form.lblBestLow) && !shows_text(form.lblBestUpp))) return;
+    if (rs.AcceptBest) return;
+    const bool proposed = shows_text(form.lblBestLow) || shows_text(form.lblBestUpp);
+    if (!proposed && !(rs.TrialLimits && selection_stands(rs))) return;
+    rs.TrialLimits = false;
     rs.SelLow = rs.BestLow;
     rs.SelUpp = rs.BestUpp;
     count_selection(rs);
@@ -92,6 +95,22 @@ bool mark_signal(RunState& rs, TimeScreen& screen) {
         if (plot::blank_is_marked_here(rs)) screen.lblBLKshow.visible = screen.lblBLKtolig.visible = true;
     }
     return true;
+}
+
+// Both limits at once, each where its caption shows a number; the other goes back to where the search began.
+bool accept_proposal(RunState& rs, Frm2UP& form) {
+    const auto proposed = [](const Label& caption, const Limit& start) {
+        return shows_text(caption) ? Val(caption.text) : start.val();
+    };
+    const double low = proposed(form.lblBestLow, rs.BestLow);
+    const double upp = proposed(form.lblBestUpp, rs.BestUpp);
+    rs.TrialLimits = false;
+    rs.ClickX = form.pict1.width * low / rs.nSlices;
+    rs.ClickButton = left_button;
+    if (!mark_signal(rs, form)) return false;
+    rs.ClickX = form.pict1.width * upp / rs.nSlices;
+    rs.ClickButton = right_button;
+    return mark_signal(rs, form);
 }
 
 bool mark_blank(Context& context, TimeScreen& screen) {
@@ -203,7 +222,8 @@ void mark_selection(Context& context, TimeScreen& screen) {
     }
     take_over_stale_proposal(rs, context.forms.frm2_UP);
     // A dropped click leaves everything as it is: no redraw, and ClickShift stands.
-    if (rs.ClickShift == 0 && !mark_signal(rs, screen)) return;
+    if (rs.AcceptBest && !accept_proposal(rs, context.forms.frm2_UP)) return;
+    if (!rs.AcceptBest && rs.ClickShift == 0 && !mark_signal(rs, screen)) return;
     if (rs.ClickShift == 1 && !mark_blank(context, screen)) return;
     rs.ClickShift = 0;
     if (rs.Method == 0) correct_and_draw(context);

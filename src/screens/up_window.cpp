@@ -157,14 +157,6 @@ void connect_plots(Program& program) {
     program.on(form, "txtYMaxInp", EventKind::enter, [&context](const Event&) { enter_upper_limit(context); });
 }
 
-void connect_refinement(Program& program) {
-    RunState& rs = program.state();
-    Frm2UP& form = program.context().forms.frm2_UP;
-    form.Combo7.changed = [&rs, &form] { rs.setBzzPlot = form.Combo7.value; };
-    form.Combo8.changed = [&rs, &form] { rs.setBzzMethod = form.Combo8.value; };
-    form.chkBzzPrompt.changed = [&rs, &form] { rs.setBzz_Prompt = form.chkBzzPrompt.value; };
-}
-
 }  // namespace
 
 void connect_up_window(Program& program) {
@@ -181,7 +173,6 @@ void connect_up_window(Program& program) {
                                          if (std::exchange(*fresh, false)) draw_UP(context);
                                      }});
     connect_plots(program);
-    connect_refinement(program);
 
     const auto click = [&](const std::string& control, void (*handler)(Context&)) {
         program.on(form, control, EventKind::click, [&context, handler](const Event&) { handler(context); });
@@ -216,8 +207,8 @@ void connect_up_window(Program& program) {
     click("cmdBack", cmdBack);
     click("cmdNewFile", choose_next_file);
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later : {"cmdSett", "cmdZizeges", "cmdAccept", "cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd",
-                              "cmdOpenSeq", "cmdShowTab", "cmdPlot", "cmdInterpolation"})
+    for (const char* later : {"cmdSett", "cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd", "cmdOpenSeq", "cmdShowTab",
+                              "cmdPlot", "cmdInterpolation"})
         click(later, [](Context& c) { say_not_yet(c.os); });
     for (const char* place : {"", "pictRightSide"})
         program.on(form, place, EventKind::dblclick, [&context](const Event&) { show_averages(context); });

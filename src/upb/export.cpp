@@ -253,6 +253,7 @@ void append_to_summary(const RunState& rs, Platform& os) {
 void copy_to_clpb(Context& context) {
     RunState& rs = context.rs;
     const Running running(rs, "copy_to_clpb");
+    const WaitCursor waiting(context.os);
     // A failure of any kind leaves no flag standing for the next export.
     const bool no_head = std::exchange(rs.NoHead, false);
     const bool to_summary = std::exchange(rs.AppendSummary, false);

@@ -46,13 +46,15 @@ bool sortable(const std::vector<double>& values) {
 // The limits that a scan began with come back when a fault ends it.
 class ScanLimits {
 public:
-    explicit ScanLimits(RunState& rs) : rs_(rs) {
+    ScanLimits(RunState& rs, Platform& os) : rs_(rs), os_(os) {
         rs.BestLow = rs.SelLow;
         rs.BestUpp = rs.SelUpp;
     }
     ScanLimits(const ScanLimits&) = delete;
     ScanLimits& operator=(const ScanLimits&) = delete;
     ~ScanLimits() {
+        os_.progress(1, 1);
+        rs_.TrialLimits = ended_;
         if (ended_) return;
         set(rs_.BestLow.val(), rs_.BestUpp.val());
         rs_.ZizzRunning = false;
@@ -67,6 +69,7 @@ public:
 
 private:
     RunState& rs_;
+    Platform& os_;
     bool ended_ = false;
 };
 
@@ -214,7 +217,7 @@ void ziz_Manager_UP(Context& context) {
     rs.ZizzBest = rs.ZizzGain1 = rs.ZizzGain2 = 0;
     ZiZi_Test(context);
 
-    ScanLimits limits(rs);
+    ScanLimits limits(rs, context.os);
     rs.ZizzRunning = true;
     rs.AcceptBest = false;
     rs.ZizzBest = 0;

@@ -1,0 +1,70 @@
+// The buttons that look for better limits of the selected interval and take them.
+#include "screens/plots.hpp"
+#include "screens/screens.hpp"
+#include "screens/selection.hpp"
+#include "upb/outliers.hpp"
+#include "upb/refinement.hpp"
+#include "upb/scatter_plot.hpp"
+
+namespace kolvar {
+
+namespace {
+
+// Moves the marks to the proposal, as two clicks of the user would.
+void take_proposal(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    form.cmdReject.enabled = true;
+    form.cmdAccept.visible = false;
+    rs.ClickShift = 0;  // a SHIFT click that was dropped may have left its key
+    rs.AcceptBest = true;
+    mark_selection(context, form);
+    rs.AcceptBest = false;
+}
+
+void cmdAccept(Context& context) {
+    take_proposal(context);
+    context.rs.ZizzRunning = false;
+    context.forms.frm2_UP.cmdZizeges.visible = true;
+}
+
+void cmdZizeges(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    const WaitCursor waiting(context.os);
+    form.lblFusion.text = "1";
+    form.VScroll2.set_value(1);
+    if (rs.SelN.val() > rs.SelNGood) {
+        restore_rejected(rs, form);
+        draw_XY(context);
+        draw_UPratio(context);
+    }
+    form.cmdReject.enabled = false;
+    form.lblBestLow.text.clear();
+    form.lblBestUpp.text.clear();
+    ziz_Manager_UP(context);
+    form.cmdAccept.visible = true;
+    form.cmdZizeges.visible = false;
+    if (form.lblBestLow.text.empty() && form.lblBestUpp.text.empty()) {
+        form.lblImprove.text = "no";
+        explain_refinement(rs, form);
+        form.cmdAccept.visible = form.lblBestLow.visible = form.lblBestUpp.visible = false;
+        form.cmdReject.enabled = true;
+    }
+    if (rs.setBzz_Prompt.val() == 1 && form.lblImprove.text != "no") take_proposal(context);
+}
+
+}  // namespace
+
+void connect_refinement(Program& program) {
+    Context& context = program.context();
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    form.Combo7.changed = [&rs, &form] { rs.setBzzPlot = form.Combo7.value; };
+    form.Combo8.changed = [&rs, &form] { rs.setBzzMethod = form.Combo8.value; };
+    form.chkBzzPrompt.changed = [&rs, &form] { rs.setBzz_Prompt = form.chkBzzPrompt.value; };
+    program.on(form, "cmdZizeges", EventKind::click, [&context](const Event&) { cmdZizeges(context); });
+    program.on(form, "cmdAccept", EventKind::click, [&context](const Event&) { cmdAccept(context); });
+}
+
+}  // namespace kolvar
