@@ -16,6 +16,14 @@ void cmdPaste(Context& context) {
     fill_lists(context);
 }
 
+void cmdPaste1(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    ClearData(context.rs);
+    form.cmdOK1.visible = false;
+    form.lblUP.text = "  ";
+    PasteData(context);
+}
+
 // Without a name there are no data: the way on asks for a file.
 void close_report(Context& context) {
     context.rs.DataFileName.clear();
@@ -28,6 +36,8 @@ void connect_paste(Program& program) {
     Context& context = program.context();
     program.on(context.forms.frm1_Settings, "cmdPaste", EventKind::click,
                [&context](const Event&) { cmdPaste(context); });
+    program.on(context.forms.frm1_Settings, "cmdPaste1", EventKind::click,
+               [&context](const Event&) { cmdPaste1(context); });
     program.on(context.forms.frmPaste, "cmdClose", EventKind::click,
                [&context](const Event&) { close_report(context); });
     program.on(context.forms.frmPaste, "", EventKind::close, [&context](const Event&) { close_report(context); });

@@ -204,7 +204,7 @@ void connect_settings_window(Program& program) {
     for (const char* leaving : {"cmdClose", "cmdExitUP", "cmdExitFLEX"})
         click(leaving, [](Context&) { throw ProgramEnd{0}; });
     for (const char* later : {"cmdIndividual", "cmdSequential", "cmdCreate", "cmdOpenMaster", "Command6",
-                              "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdPaste1", "cmdOK1", "Command9"})
+                              "cmdChooseSET", "cmdSet_1", "cmdChooseUP", "cmdOK1", "Command9"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
     click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });
