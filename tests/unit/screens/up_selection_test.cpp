@@ -171,6 +171,18 @@ TEST_F(UpSelection, LeftEdgeIsSliceOneForTheSignalAndZeroForBlankAndBeam) {
     EXPECT_EQ(rs.BeamStart, 0);
 }
 
+TEST_F(UpSelection, LimitsTheWrongWayRoundAfterAClickAtTheEdgeMeetTheGuardOfTheCalculation) {
+    mark(left, 1, 1);
+    mark(right, 3, 1);
+    mark(right, 0);
+    mark(left, 5);
+    EXPECT_EQ(rs.SelUpp, Limit(0));
+    EXPECT_EQ(rs.SelN, Limit(-4));
+    ASSERT_EQ(boxes().size(), 1U);
+    EXPECT_TRUE(boxes()[0].starts_with("The selected time interval is too short.")) << boxes()[0];
+    EXPECT_EQ(form.lbl6_8.text, "");
+}
+
 TEST_F(UpSelection, ShiftWithoutABlankInTheFileChangesNothingButDraws) {
     rs.BlankFromData = 0;
     const int draws = form.pict1.canvas.draws();

@@ -70,6 +70,33 @@ TEST_F(UpWindow, PlotsOfTheFileBeforeAreGone) {
     EXPECT_EQ(form().lblLow.text, "");
 }
 
+TEST_F(UpWindow, NextFileOfTheSameLengthIsCalculatedWithTheLimitsOfTheFormer) {
+    go();
+    rs().setFormer_Sel = 1;
+    mark_all();
+    click(form(), "cmdBack");
+    choose(std::string(KOLVAR_TEST_DATA) + "/results/no-u235.csv");
+    EXPECT_EQ(rs().SelLow, Limit(12));
+    EXPECT_EQ(rs().BlkUpp, Limit(7));
+    EXPECT_EQ(rs().ColU235, 0);
+    EXPECT_GT(lines_of(form().pict2), 0);
+    EXPECT_EQ(form().lblUpp.text, "21");
+    rs().setFormer_Sel = 0;
+    click(form(), "cmdBack");
+    choose(std::string(KOLVAR_TEST_DATA) + "/results/panel.csv");
+    EXPECT_FALSE(rs().SelLow.is_set() || rs().BlkUpp.is_set());
+}
+
+TEST_F(UpWindow, FormerSelectionStaysAsAGuideWhereTheNextFileIsOfAnotherLength) {
+    go();
+    mark_all();
+    leave_and_return();
+    load_short_file();
+    EXPECT_TRUE(form().pictFormer.visible && form().lblFormer1.visible);
+    EXPECT_EQ(form().lblFormer2.text, "12 - 21");
+    EXPECT_EQ(form().pictFormer.left, static_cast<int>(form().pict1.left + form().pict1.width * 12 / 30.0 + 0.5));
+}
+
 TEST_F(UpWindow, ActivationDuringAnImportClearsTheSignals) {
     go();
     rs().PlotOn = 1;
