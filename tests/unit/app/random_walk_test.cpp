@@ -87,7 +87,8 @@ bool event_of(const Control& control, Dice& dice, Event& event) {
         case ControlKind::entry: {
             if (control.locked) return false;
             const std::vector<std::string> texts{"20", "3", "0", "abc", "153319", "2.5", ""};
-            event.kind = dice.one_in(3) ? EventKind::enter : EventKind::type;
+            // In an entry of several lines Enter begins a new one.
+            event.kind = !control.multiline && dice.one_in(3) ? EventKind::enter : EventKind::type;
             event.text = event.kind == EventKind::type ? dice.one_of(texts) : "";
             return true;
         }
