@@ -12,12 +12,14 @@ namespace {
 constexpr int margin = 120;
 constexpr int head = 1020;           // lines about file and intervals above the plots
 constexpr int signals_width = 2700;  // analytes, mean cps, margins
-constexpr int signals_top = 1020;
+constexpr int signals_top = 1320;
 constexpr int scale_labels = 750;
 constexpr int bar_width = 255;
-constexpr int strip_width = 2550;   // scales, copies, the way
-constexpr int between_plots = 640;  // numbers of the limits, head of the ratio plot
-constexpr int results_height = 3900;
+constexpr int strip_width = 2550;     // scales, copies, the way
+constexpr int between_plots = 640;    // numbers of the limits, head of the ratio plot
+constexpr int results_height = 3900;  // of all that stands below the plots
+constexpr int ratios_height = 3700;   // the panel of the ratios alone
+constexpr int right_margin = 60;
 constexpr int ratios_width = 7700;
 constexpr int ages_width = 2500;
 constexpr int refinement_width = 2600;
@@ -76,10 +78,10 @@ void lay_out_up_window(Context& context) {
           label_height);
     form.pictFormer.height = 75;
     place(form.picUP_elems, margin, signals_top, signals_width, results_top - signals_top - margin);
-    place(form.pictRightSide, form.width - margin - strip_width, head, strip_width, results_top - head - margin);
+    place(form.pictRightSide, form.width - right_margin - strip_width, head, strip_width, results_top - head - margin);
     // Below: ratios, ages over outliers, refinement over the choice of the diagram, the scatter plot.
     const int height_below = results_height - margin;
-    place(form.pictResults, margin, results_top, ratios_width, height_below);
+    place(form.pictResults, margin, form.height - ratios_height, ratios_width, ratios_height - margin);
     int at = margin + ratios_width + margin;
     place(form.Frame1, at, results_top, ages_width, 1680);
     place(form.Frame4, at, results_top + 1740, ages_width, height_below - 1740);

@@ -173,6 +173,9 @@ TEST_F(UpWindow, FlatteningBarNeedsFourLimits) {
     scroll(form(), "VScroll3", 8);
     EXPECT_EQ(rs().RatioScale, 8);
     EXPECT_EQ(form().pict1.canvas.draws(), signals);
+    leave_and_return();
+    EXPECT_EQ(form().VScroll3.value, 20);
+    EXPECT_EQ(rs().RatioScale, 20);
 }
 
 TEST_F(UpWindow, PoolingTwoSlicesUndoesARejection) {
@@ -401,6 +404,18 @@ TEST_F(UpWindow, NarrowerThanElevenThousandIsNotLaidOut) {
     EXPECT_EQ(form().VScroll1.value, 1);
     EXPECT_DOUBLE_EQ(rs().SelLowX, form().pict1.width * 12 / 30.0);
     EXPECT_EQ(rs().SelLow, Limit(12));
+}
+
+TEST_F(UpWindow, PanelsKeepTheirPlaces) {
+    go();
+    resize(form(), 20000, 12000);
+    EXPECT_EQ(form().pictRightSide.left + form().pictRightSide.width, 20000 - 60);
+    EXPECT_EQ(form().pictResults.top, 12000 - 3700);
+    EXPECT_EQ(form().picUP_elems.left, 120);
+    EXPECT_EQ(form().picUP_elems.top, 1320);
+    EXPECT_EQ(form().pict2.left, form().pict1.left);
+    EXPECT_EQ(form().lblMaxCps.left + form().lblMaxCps.width + 60, form().pict1.left);
+    EXPECT_EQ(form().lblLow.top, form().pict1.top + form().pict1.height + 100);
 }
 
 TEST_F(UpWindow, FirstResizeOnlyTurnsTheFlag) {
