@@ -163,7 +163,7 @@ void show_path(RunState& rs, Frm2UP& form) {
     form.chk68.text = flex ? "U233/U238" : "Pb206/U238";
     form.chk82.text = flex ? "Th230/Th332" : "Pb208/Th232";
     show({&form.Label15, &form.pict3, &form.lblFusion, &form.VScroll2, &form.lblRizsa(6), &form.cmdCopySel, &form.lblXY,
-          &form.Frame1, &form.Frame2, &form.lblExPo75},
+          &form.Frame1, &form.Frame2, &form.lblExPo75, &form.lblRizsa(12), &form.lblRizsa(13)},
          !flex);
     if (!flex) return;
     show({&form.chk75, &form.chk76, &form.lbl7_5, &form.lbl7_6, &form.lblTz7_5, &form.lblTz7_6}, false);

@@ -157,9 +157,9 @@ TEST_F(UpPaths, ThirdPathNamesItsIsotopesAndHidesWhatIsForDating) {
     }
     Frm2UP& f = form();
     for (const Control* hidden : std::initializer_list<const Control*>{
-             &f.chk75, &f.chk76, &f.lbl7_5, &f.lbl7_6, &f.lblTz7_5, &f.lblTz7_6, &f.Label15, &f.lblExPo75, &f.pict3,
-             &f.lblFusion, &f.VScroll2, &f.lblRizsa(6), &f.chkHgCorr, &f.chkCommLead, &f.cmdCopySel, &f.lblXY,
-             &f.Frame1, &f.Frame2})
+             &f.chk75,      &f.chk76, &f.lbl7_5,    &f.lbl7_6,   &f.lblTz7_5,     &f.lblTz7_6,    &f.Label15,
+             &f.lblExPo75,  &f.pict3, &f.lblFusion, &f.VScroll2, &f.lblRizsa(6),  &f.chkHgCorr,   &f.chkCommLead,
+             &f.cmdCopySel, &f.lblXY, &f.Frame1,    &f.Frame2,   &f.lblRizsa(12), &f.lblRizsa(13)})
         EXPECT_FALSE(hidden->visible) << hidden->address();
 }
 
@@ -175,7 +175,8 @@ TEST_F(UpPaths, WhatTheThirdPathHidIsBackForDating) {
     EXPECT_EQ(f.chk82.text, "Pb208/Th232");
     for (const Control* shown : std::initializer_list<const Control*>{
              &f.chk75, &f.chk76, &f.lbl7_5, &f.lbl7_6, &f.Label15, &f.lblExPo75, &f.pict3, &f.lblFusion, &f.VScroll2,
-             &f.lblRizsa(6), &f.chkHgCorr, &f.chkCommLead, &f.cmdCopySel, &f.lblXY, &f.Frame1, &f.Frame2})
+             &f.lblRizsa(6), &f.chkHgCorr, &f.chkCommLead, &f.cmdCopySel, &f.lblXY, &f.Frame1, &f.Frame2,
+             &f.lblRizsa(12), &f.lblRizsa(13)})
         EXPECT_TRUE(shown->visible) << shown->address();
     EXPECT_EQ(f.lblFLEXiso(1).text, "U238");
     EXPECT_EQ(f.lblFLEXiso(8).text, "Hg202");
