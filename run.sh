@@ -20,5 +20,6 @@ echo "== No display: walking the example through the windows offscreen"
 rm -rf build/demo
 mkdir -p build/demo
 build/app/kolvar_scenario --app-folder build/app --work build/demo tools/demo.scn >build/demo/printed.jsonl
+build/app/kolvar_scenario --app-folder build/app --work build/demo tools/demo_uranium_lead.scn >>build/demo/printed.jsonl
 echo "== The result table is build/demo/example-1.txt; the pictures of the windows are:"
 ls build/demo/*.png

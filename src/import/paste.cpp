@@ -59,17 +59,20 @@ double number_of(std::string_view cell) {
     return Val(cell);
 }
 
-// A line feed in front of a line's first cell does no harm to its number. What stands behind the last line end is not
-// stored.
+// A line feed in front of a line's first cell does no harm to its number. The cells behind the last line end must be
+// numbers too, but that line is no slice and is not stored.
 void read_slices(RunState& rs, std::string_view text) {
+    const std::size_t last_end = text.rfind(line_end);
     int row = 0;
     int column = 1;
     std::size_t from = 0;
     for (std::size_t at = text.find_first_of("\t\r"); at != text.npos; at = text.find_first_of("\t\r", at + 1)) {
         const bool ends_line = text[at] == line_end;
-        if (row > MaxSlices) fail(FaultKind::too_many);
+        const bool stored = at <= last_end;
+        if (row > MaxSlices && stored) fail(FaultKind::too_many);
         if (row > 0) {
-            rs.Sig(column, row) = number_of(text.substr(from, at - from));
+            const double number = number_of(text.substr(from, at - from));
+            if (stored) rs.Sig(column, row) = number;
             ++column;
         }
         if (ends_line) {

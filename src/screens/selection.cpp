@@ -171,6 +171,8 @@ void enable_what_the_limits_allow(Context& context, TimeScreen& screen) {
     const RunState& rs = context.rs;
     if (selection_stands(rs) && blank_stands(rs)) {
         screen.cmdReject.enabled = true;
+        // A file whose limits were dropped had hidden it.
+        if (rs.Method == 1 || rs.Method == 3) offer_rejection(context.forms.frm2_UP);
         if (rs.Method == 1) screen.cmdCopySel.enabled = true;
         screen.cmdCopyHead.enabled = screen.cmdCopy.enabled = screen.cmdApp.enabled = true;
     }

@@ -92,8 +92,9 @@ void cmdSel(Context& context) {
 
 // A double click beside the plots: averages of what is marked, if enough is marked.
 void preview_averages(Context& context) {
-    const RunState& rs = context.rs;
+    RunState& rs = context.rs;
     if (rs.SelN.val() == 0 || !rs.SelLow.is_set() || !rs.SelUpp.is_set()) return;
+    for (int i = 1; i <= rs.nIso; ++i) rs.nData(i) = rs.SelN.val();  // also where the blank is missing yet
     if (rs.BlankFromData == 1 && (!rs.BlkLow.is_set() || !rs.BlkUpp.is_set())) return;
     ShowAverages(context);
 }

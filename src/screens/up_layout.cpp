@@ -11,16 +11,20 @@ namespace {
 
 constexpr int margin = 120;
 constexpr int head = 1020;           // lines about file and intervals above the plots
-constexpr int signals_width = 2700;  // analytes, mean cps, margins
-constexpr int signals_top = 1020;
+constexpr int signals_width = 3150;  // analytes, mean cps, margins
+constexpr int signals_top = 1320;
 constexpr int scale_labels = 750;
 constexpr int bar_width = 255;
-constexpr int strip_width = 2550;   // scales, copies, the way
-constexpr int between_plots = 640;  // numbers of the limits, head of the ratio plot
-constexpr int results_height = 3900;
-constexpr int ratios_width = 7700;
-constexpr int ages_width = 2500;
-constexpr int refinement_width = 2600;
+constexpr int strip_width = 2550;     // scales, copies, the way
+constexpr int between_plots = 640;    // numbers of the limits, head of the ratio plot
+constexpr int results_height = 3900;  // of all that stands below the plots
+constexpr int ratios_height = 3700;   // the panel of the ratios alone
+constexpr int right_margin = 60;
+constexpr int narrow_window = 16500;  // up to this width the panels below have their least width
+constexpr int ratios_width = 7600;
+constexpr int ages_width = 2930;
+constexpr int refinement_width = 2950;
+constexpr int status_height = 900;
 constexpr int label_height = 240;
 
 void place(Control& control, int left, int top, int width, int height) {
@@ -76,19 +80,24 @@ void lay_out_up_window(Context& context) {
           label_height);
     form.pictFormer.height = 75;
     place(form.picUP_elems, margin, signals_top, signals_width, results_top - signals_top - margin);
-    place(form.pictRightSide, form.width - margin - strip_width, head, strip_width, results_top - head - margin);
+    place(form.pictRightSide, form.width - right_margin - strip_width, head, strip_width, results_top - head - margin);
     // Below: ratios, ages over outliers, refinement over the choice of the diagram, the scatter plot.
+    // What a wider window gives goes to the ratios and to the scatter plot.
     const int height_below = results_height - margin;
-    place(form.pictResults, margin, results_top, ratios_width, height_below);
-    int at = margin + ratios_width + margin;
+    const int more = std::clamp((form.width - narrow_window) / 4, 0, 3000);
+    place(form.pictResults, margin, form.height - ratios_height, ratios_width + more,
+          ratios_height - margin - status_height);
+    place(form.lblStatus, margin, form.height - status_height - margin / 2, ratios_width + more, status_height);
+    int at = margin + ratios_width + more + margin;
     place(form.Frame1, at, results_top, ages_width, 1680);
-    place(form.Frame4, at, results_top + 1740, ages_width, height_below - 1740);
+    const int ages_height = form.Frame1.visible ? 1740 : 0;
+    place(form.Frame4, at, results_top + ages_height, ages_width, height_below - 1740);
     at += ages_width + margin;
     place(form.FrameBzzz, at, results_top, refinement_width, 2370);
     place(form.Frame2, at, results_top + 2430, refinement_width, height_below - 2430);
     at += refinement_width + margin;
     const int scatter_width = std::max(form.width - at - bar_width - margin, 300);
-    place(form.lblXY, at, results_top, scatter_width, label_height);
+    place(form.lblXY, at - 510, results_top, scatter_width + bar_width + 630, label_height);
     place_plot(form.pict3, at, results_top + label_height + 30, scatter_width, height_below - 2 * label_height - 60);
     place(form.VScroll2, at + form.pict3.width + 15, form.pict3.top, bar_width, form.pict3.height);
     const int below_scatter = form.pict3.top + form.pict3.height + 30;

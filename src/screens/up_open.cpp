@@ -100,6 +100,8 @@ void clear_results(const RunState& rs, Frm2UP& form) {
                          &form.lbl235LoD, &form.lbl232LoD, &form.lbl208LoD,   &form.lbl207LoD,   &form.lbl206LoD,
                          &form.lbl204LoD, &form.lbl20xLoD, &form.lblAge06_38, &form.lblAge07_35, &form.lblConcord1})
         label->text.clear();
+    form.pict2.canvas.Clear();
+    form.pict3.canvas.Clear();
     if (!all_limits_set(rs)) form.lblConcord1.back.reset();
     if (rs.RejectOn) return;
     form.lblOM.text.clear();
@@ -161,11 +163,14 @@ void show_path(RunState& rs, Frm2UP& form) {
     form.chk68.text = flex ? "U233/U238" : "Pb206/U238";
     form.chk82.text = flex ? "Th230/Th332" : "Pb208/Th232";
     show({&form.Label15, &form.pict3, &form.lblFusion, &form.VScroll2, &form.lblRizsa(6), &form.cmdCopySel, &form.lblXY,
-          &form.Frame1, &form.Frame2},
+          &form.Frame1, &form.Frame2, &form.lblExPo75, &form.lblRizsa(12), &form.lblRizsa(13)},
          !flex);
     if (!flex) return;
-    show({&form.chk75, &form.chk76, &form.lbl7_5, &form.lbl7_6, &form.lblTz7_5, &form.lblTz7_6, &form.lblExPo75},
-         false);
+    show({&form.chk75, &form.chk76, &form.lbl7_5, &form.lbl7_6, &form.lblTz7_5, &form.lblTz7_6}, false);
+    // The bar that pools the slices is out of reach here.
+    rs.PlotPool = 1;
+    form.lblFusion.text = "1";
+    form.VScroll2.set_value_quietly(1);
 }
 
 // Heads that no calculation knows, with the forms that it would know.

@@ -6,6 +6,7 @@
 
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
+#include "qt/text.hpp"
 
 namespace kolvar {
 
@@ -105,9 +106,20 @@ void lay_out_standards(FormWindow& window, const FrmSetIS& f) {
     grid->setColumnStretch(2, 1);
 }
 
-// A line for each pair: numerator over denominator, each with the box that leaves its blank uncorrected.
-void lay_out_pairs(FormWindow& window, FrmSetIS& f) {
-    auto* grid = grid_in(window, f.Frame6);
+// A line for each pair: numerator over denominator, each with the box that leaves its blank uncorrected. The lines lie
+// upon the frame and not in it, as those boxes can be ticked while the frame is disabled.
+QGridLayout* lay_out_pairs(FormWindow& window, FrmSetIS& f) {
+    auto* upon = new QGridLayout;
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(4);
+    constexpr int padding = 9;
+    auto* const frame = static_cast<QGroupBox*>(window.of(f.Frame6));
+    frame->setTitle(shown(f.Frame6.text));  // its margins make room for the title
+    grid->setContentsMargins(frame->contentsMargins() + padding);
+    upon->addWidget(frame, 0, 0);
+    upon->addLayout(grid, 0, 0);
+    frame->lower();
     const QString uncorrected = QStringLiteral("Checked: this signal is taken without blank correction");
     for (int pair = 1; pair <= 6; ++pair) {
         ListBox& above = f.comboRatio(2 * pair - 2);
@@ -123,10 +135,10 @@ void lay_out_pairs(FormWindow& window, FrmSetIS& f) {
     }
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(4, 1);
+    return upon;
 }
 
 void lay_out_plots(FormWindow& window, FrmSetIS& f) {
-    lay_out_pairs(window, f);
     auto* plots = new QVBoxLayout(window.of(f.framePlots));
     plots->setSpacing(4);
     auto* signals_row = row_of(window, {&f.optLin(0), &f.optLin(1)});
@@ -136,7 +148,7 @@ void lay_out_plots(FormWindow& window, FrmSetIS& f) {
     plots->addSpacing(4);
     plots->addWidget(caption(window, "Below the signals:"));
     for (int k = 0; k <= 2; ++k) plots->addWidget(window.of(f.optResultPlot(k)));
-    plots->addWidget(window.of(f.Frame6));
+    plots->addLayout(lay_out_pairs(window, f));
 }
 
 void lay_out_tests(FormWindow& window, const FrmSetIS& f) {

@@ -2,6 +2,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
+#include "qt/canvas_painter.hpp"
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
 #include "qt/layouts/time_pieces.hpp"
@@ -11,7 +12,7 @@ namespace kolvar {
 
 namespace {
 
-constexpr int status_height = 22;
+constexpr int pointer_height = 18;  // slice and value under the pointer
 
 QGridLayout* grid_in(FormWindow& window, const Control& holder) {
     auto* grid = new QGridLayout(window.of(holder));
@@ -21,38 +22,59 @@ QGridLayout* grid_in(FormWindow& window, const Control& holder) {
     return grid;
 }
 
+// A figure that is read at a glance.
+void prominent(FormWindow& window, const Label& label) {
+    QFont font = bold(window, label).font();
+    font.setPointSizeF(font.pointSizeF() * 1.1);
+    window.of(label)->setFont(font);
+}
+
+// The colour in which a signal or ratio is drawn.
+QPixmap swatch(Colour colour) {
+    QPixmap mark(10, 4);
+    mark.fill(qt_colour(colour));
+    return mark;
+}
+
 void right_aligned(FormWindow& window, const Label& label) {
     static_cast<LabelView*>(window.of(label))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-// Analyte, mean cps, margin over the detection limit.
-void lay_out_signals(FormWindow& window, const Frm2UP& f) {
+// Analyte, mean cps, margin over the detection limit. Hands back the mark of the last curve, that of the Hg isotope.
+QWidget* lay_out_signals(FormWindow& window, const Frm2UP& f) {
     auto* grid = grid_in(window, f.picUP_elems);
-    grid->addWidget(caption(window, "cps"), 0, 1, Qt::AlignRight);
-    grid->addWidget(caption(window, "x LoD"), 0, 2, Qt::AlignRight);
+    grid->addWidget(caption(window, "cps"), 0, 2, Qt::AlignRight);
+    grid->addWidget(caption(window, "x LoD"), 0, 3, Qt::AlignRight);
+    const int colours[] = {10, 2, 9, 13, 12, 6, 5, 0};  // of the curves
+    QLabel* mark = nullptr;
     const std::pair<const Label*, const Label*> rows[] = {
         {&f.lbl238, &f.lbl238LoD}, {&f.lbl235, &f.lbl235LoD}, {&f.lbl232, &f.lbl232LoD}, {&f.lbl208, &f.lbl208LoD},
         {&f.lbl207, &f.lbl207LoD}, {&f.lbl206, &f.lbl206LoD}, {&f.lbl204, &f.lbl204LoD}, {&f.lblAver(8), &f.lbl20xLoD}};
     for (int i = 1; i <= 15; ++i) {
-        grid->addWidget(window.of(f.lblFLEXiso(i)), i, 0);
+        grid->addWidget(window.of(f.lblFLEXiso(i)), i, 1);
         if (i > 8) continue;
+        mark = new QLabel(window.body());
+        mark->setPixmap(swatch(palette(colours[i - 1])));
+        grid->addWidget(mark, i, 0);
         const auto& [mean, margin] = rows[i - 1];
         right_aligned(window, *mean);
         right_aligned(window, *margin);
         bold(window, *mean);
-        grid->addWidget(window.of(*mean), i, 1);
-        grid->addWidget(window.of(*margin), i, 2);
+        grid->addWidget(window.of(*mean), i, 2);
+        grid->addWidget(window.of(*margin), i, 3);
     }
-    grid->addWidget(window.of(f.lbl235C), 2, 3);
-    grid->setColumnStretch(1, 1);
+    grid->addWidget(window.of(f.lbl235C), 2, 4);
+    grid->addWidget(window.of(f.lblHgCorrNegative), 7, 4);
+    grid->setColumnStretch(2, 1);
     int row = 16;
-    grid->addWidget(window.of(f.chkHgCorr), row++, 0, 1, 4);
-    grid->addWidget(window.of(f.chkCommLead), row++, 0, 1, 4);
-    grid->addWidget(window.of(f.Check1), row++, 0, 1, 4);
-    grid->addWidget(window.of(f.txtAgePb), row++, 0, 1, 4);
+    grid->addWidget(window.of(f.chkHgCorr), row++, 0, 1, 5);
+    grid->addWidget(window.of(f.chkCommLead), row++, 0, 1, 5);
+    grid->addWidget(window.of(f.Check1), row++, 0, 1, 5);
+    grid->addWidget(window.of(f.txtAgePb), row++, 0, 1, 5);
     grid->setRowStretch(row, 1);
     for (const Control* unused : std::initializer_list<const Control*>{&f.chkCommLead, &f.Check1, &f.txtAgePb})
         window.of(*unused)->setToolTip(QStringLiteral("stored, not used in the calculation"));
+    return mark;
 }
 
 // A row for each ratio: shown on the plot, result, scatter over counting statistics, skewness, regression.
@@ -61,12 +83,16 @@ void lay_out_ratios(FormWindow& window, Frm2UP& f) {
     for (const Label* head : {&f.lblAv, &f.lblMed, &f.lblTz}) grid->addWidget(window.of(*head), 0, 1, Qt::AlignRight);
     const char* const heads[] = {"E-Poisson", "skewness", "slope b", "r"};
     for (int k = 0; k < 4; ++k) grid->addWidget(caption(window, heads[k]), 0, 2 + k, Qt::AlignRight);
+    const int colours[] = {0, 12, 10, 1, 13};  // of the curves
     for (int k = 0; k < 5; ++k) {
         const Frm2UP::RatioRow row = f.ratio_row(k);
-        grid->addWidget(window.of(row.box), k + 1, 0);
+        auto* const box = static_cast<QCheckBox*>(window.of(row.box));
+        box->setIcon(swatch(palette(colours[k])));
+        box->setIconSize(QSize(10, 4));
+        grid->addWidget(box, k + 1, 0);
         for (const Label* result : {&row.mean, &row.median, &row.tzero}) {
             right_aligned(window, *result);
-            bold(window, *result);
+            prominent(window, *result);
             grid->addWidget(window.of(*result), k + 1, 1);
         }
         int column = 2;
@@ -92,7 +118,7 @@ void lay_out_ages(FormWindow& window, const Frm2UP& f) {
     for (int k = 0; k < 2; ++k) {
         grid->addWidget(window.of(*ages[k].first), k, 0);
         right_aligned(window, *ages[k].second);
-        bold(window, *ages[k].second);
+        prominent(window, *ages[k].second);
         grid->addWidget(window.of(*ages[k].second), k, 1);
         grid->addWidget(caption(window, "Ma"), k, 2);
     }
@@ -101,29 +127,31 @@ void lay_out_ages(FormWindow& window, const Frm2UP& f) {
     auto* const concordance = static_cast<LabelView*>(window.of(f.lblConcord1));
     concordance->setAlignment(Qt::AlignCenter);
     concordance->setFrameStyle(QFrame::Box | QFrame::Plain);
-    bold(window, f.lblConcord1);
+    prominent(window, f.lblConcord1);
     grid->addWidget(concordance, 3, 1, 1, 2);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(4, 1);
 }
 
 void lay_out_outliers(FormWindow& window, const Frm2UP& f) {
-    auto* grid = grid_in(window, f.Frame4);
-    grid->addWidget(window.of(f.chkShowSD), 0, 0);
-    grid->addWidget(window.of(f.lblIfSD), 0, 1, Qt::AlignRight);
+    auto* whole = new QVBoxLayout(window.of(f.Frame4));
+    whole->setContentsMargins(4, 4, 4, 4);
+    whole->setSpacing(1);
+    const auto row = [&](std::initializer_list<const Control*> left, std::initializer_list<const Control*> right) {
+        auto* const line = row_of(window, left);
+        line->addStretch(1);
+        for (const Control* control : right) line->addWidget(window.of(*control));
+        whole->addLayout(line);
+    };
     window.of(f.txtSD)->setFixedWidth(40);
-    grid->addWidget(window.of(f.txtSD), 0, 2);
-    grid->addWidget(window.of(f.chkRejOL), 1, 0);
     window.of(f.chkRejOL)->setToolTip(QStringLiteral("stored, not used in the calculation"));
-    auto* marks = new QHBoxLayout;
-    for (int k = 1; k <= 5; ++k) marks->addWidget(window.of(f.Shape(k)));
-    grid->addLayout(marks, 1, 1, 1, 2);
-    grid->addWidget(window.of(f.cmdReject), 2, 0, 1, 3);
-    grid->addWidget(window.of(f.lblReject), 3, 0, 1, 2);
     bold(window, f.lblOM);
-    grid->addWidget(window.of(f.lblOM), 3, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setRowStretch(4, 1);
+    for (int k = 1; k <= 5; ++k) window.of(f.Shape(k))->setFixedSize(12, 12);
+    row({&f.chkShowSD}, {&f.lblIfSD, &f.txtSD});
+    row({&f.chkRejOL}, {&f.Shape(1), &f.Shape(2), &f.Shape(3), &f.Shape(4), &f.Shape(5)});
+    whole->addWidget(window.of(f.cmdReject));
+    row({&f.lblReject}, {&f.lblOM});
+    whole->addStretch(1);
 }
 
 void lay_out_refinement(FormWindow& window, const Frm2UP& f) {
@@ -150,11 +178,11 @@ void lay_out_refinement(FormWindow& window, const Frm2UP& f) {
 void lay_out_diagram(FormWindow& window, const Frm2UP& f) {
     auto* grid = grid_in(window, f.Frame2);
     grid->addWidget(window.of(f.optConcord(0)), 0, 0, 1, 2);
-    grid->addWidget(window.of(f.optConcord(1)), 1, 0, 1, 2);
+    grid->addWidget(window.of(f.Command1), 0, 2, Qt::AlignRight);
+    grid->addWidget(window.of(f.optConcord(1)), 1, 0, 1, 3);
     grid->addWidget(window.of(f.lblRizsa(6)), 2, 0);
     bold(window, f.lblFusion);
-    grid->addWidget(window.of(f.lblFusion), 2, 1);
-    grid->addWidget(window.of(f.Command1), 0, 2, 2, 1, Qt::AlignRight);
+    grid->addWidget(window.of(f.lblFusion), 2, 1, 1, 2);
     window.of(f.Command1)->setToolTip(QStringLiteral("stored, not used in the calculation"));
     grid->setRowStretch(3, 1);
 }
@@ -190,7 +218,7 @@ void lay_out_sequence(FormWindow& window, const Frm2UP& f) {
 void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
     QWidget* const head = lay_out_time_head(window, f, f.lblRizsa(23));
     align_time_labels(window, f);
-    lay_out_signals(window, f);
+    QWidget* const hg_mark = lay_out_signals(window, f);
     lay_out_ratios(window, f);
     lay_out_ages(window, f);
     lay_out_outliers(window, f);
@@ -199,6 +227,8 @@ void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
     lay_out_strip(window, f);
     lay_out_sequence(window, f);
     static_cast<LabelView*>(window.of(f.lblXY))->setAlignment(Qt::AlignCenter);
+
+    wrapping(window, f.lblStatus).setAlignment(Qt::AlignLeft | Qt::AlignBottom);
 
     auto* status = new QLabel(window.body());
     status->setObjectName(QStringLiteral("status"));
@@ -209,12 +239,11 @@ void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
         window.of(*above)->raise();
     static_cast<LabelView*>(window.of(f.lblBeam_St))->setCursor(Qt::PointingHandCursor);
     window.setMinimumSize(640, 480);
-    window.set_arranger([&window, &f, head, status] {
+    window.set_arranger([&window, &rs, head, status, hg_mark] {
         const QSize room = window.body()->size();
         head->setGeometry(0, 0, room.width(), time_head_height);
-        const int top = time_head_height;
-        window.of(f.lblStatus)->setGeometry(8, top, room.width() * 2 / 3, status_height - 4);
-        status->setGeometry(room.width() * 2 / 3, top, room.width() / 3 - 8, status_height - 4);
+        hg_mark->setVisible(rs.Method == 1);  // a solution has an analyte there that is not drawn
+        status->setGeometry(8, time_head_height, 230, pointer_height);
     });
     window.set_escape_buttons({&f.cmdBack});
     window.add_shortcut(f.cmdBack, "Alt+B");
@@ -223,6 +252,10 @@ void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
     window.add_shortcut(f.cmdCopy, "Alt+C");
     window.add_shortcut(f.cmdApp, "Alt+A");
     window.add_shortcut(f.cmdNewFile, "Alt+W");
+    window.add_shortcut(f.cmdCopyHead, "Alt+H");
+    window.add_shortcut(f.cmdCopySel, "Alt+S");
+    window.add_shortcut(f.cmdSett, "Alt+D");
+    window.add_shortcut(f.cmdZizeges, "Alt+Z");
 }
 
 void lay_out_missing_upb(FormWindow& window, const FrmMissingUPb& f) {

@@ -32,7 +32,11 @@ Frm2UP::Frm2UP() : TimeScreen("frm2_UP", "Kolv-AGE  -  Selection of time slices 
              {&lblAge06_38Head, &lblAge06_38, &lblAge07_35Head, &lblAge07_35, &Label15, &lblConcordHead, &lblConcord1});
     put_into(Frame2, {&optConcord(0), &optConcord(1), &Command1, &lblRizsa(6), &lblFusion});
     put_into(Frame4, {&chkShowSD, &lblIfSD, &txtSD, &chkRejOL, &cmdReject, &lblReject, &lblOM});
-    for (Label& mark : Shape) put_into(Frame4, {&mark});
+    const Colour curves[] = {palette(0), palette(12), palette(10), palette(1), palette(13)};
+    for (int k = 1; k <= 5; ++k) {
+        put_into(Frame4, {&Shape(k)});
+        Shape(k).back = curves[k - 1];
+    }
     put_into(FrameBzzz, {&txtZizzRange, &comboBzz, &Combo7, &Combo8, &chkBzzPrompt, &cmdZizeges, &cmdAccept, &lblRMS68,
                          &lblRMS75, &lblZizzMin1, &lblZizzMin2, &lblBest68, &lblBest75, &lblImprove, &lblExplain});
     put_into(pictSeq,

@@ -40,7 +40,12 @@ FrmSetIS::FrmSetIS() : Form("frm_SetIS", "Settings for LA-ICP-MS calculations us
     put_into(framePlots, {&chkFormerSel, &optLin(0), &optLin(1), &chkHorizLines, &optResultPlot(0), &optResultPlot(1),
                           &optResultPlot(2), &Frame6});
     for (ListBox& list : comboRatio) put_into(Frame6, {&list});
-    for (int pair = 1; pair <= 6; ++pair) put_into(Frame6, {&chkRatio(pair), &chkBLK1(pair), &chkBLK2(pair)});
+    // The quick results hold the ratios whatever is plotted: their blank correction is open also while the frame is
+    // not.
+    for (int pair = 1; pair <= 6; ++pair) {
+        put_into(Frame6, {&chkRatio(pair)});
+        put_into(framePlots, {&chkBLK1(pair), &chkBLK2(pair)});
+    }
     put_into(frameTests, {&chkTestBlank, &frameTable, &optShowMiMa, &optMiMa, &optShowGrubbs, &optGrubbs, &optShowStDev,
                           &optStDev, &txtSD, &lblSD});
     for (OptionButton& option : optTable) put_into(frameTable, {&option});

@@ -38,7 +38,8 @@ private:
 // Answers as the dice fall.
 class RandomPlatform : public test::ScriptedPlatform {
 public:
-    RandomPlatform(Dice& dice, std::string folder) : dice_(dice), folder_(std::move(folder)) {}
+    RandomPlatform(Dice& dice, std::string folder, std::vector<std::string> data)
+        : dice_(dice), folder_(std::move(folder)), data_(std::move(data)) {}
     bool ask(const std::string& text, const std::string& title) override {
         test::ScriptedPlatform::ask(text, title);
         return dice_.one_in(3);
@@ -46,13 +47,13 @@ public:
     std::string open_file(const FileDialog& dialog) override {
         if (dice_.one_in(4)) return {};
         const auto wants = [&](const char* ending) { return dialog.filter.find(ending) != std::string::npos; };
-        const char* name = wants("*.set")    ? "Kolvar-default-h.set"
-                           : wants("*.stc")  ? "nist-srm-610.stc"
-                           : wants("*.stm")  ? "nbs-610-2004-12-19-1.stm"
-                           : wants("*.blk")  ? "2004-12-19-a.blk"
-                           : wants("*.dwe")  ? "quadrupole.dwe"
-                           : dice_.one_in(2) ? "nist-610-1.csv"
-                                             : "example-1.csv";
+        const char* name = wants("*.set")   ? "Kolvar-default-h.set"
+                           : wants("*.stc") ? "nist-srm-610.stc"
+                           : wants("*.stm") ? "nbs-610-2004-12-19-1.stm"
+                           : wants("*.blk") ? "2004-12-19-a.blk"
+                           : wants("*.dwe") ? "quadrupole.dwe"
+                           : wants("*.def") ? "KolvAge-default-b01.def"
+                                            : dice_.one_of(data_).c_str();
         return folder_ + "/start-kit/" + name;
     }
     std::optional<std::string> save_file(const FileDialog& dialog) override {
@@ -63,6 +64,7 @@ public:
 private:
     Dice& dice_;
     std::string folder_;
+    std::vector<std::string> data_;
 };
 
 bool leads_out(const Control& control) {
@@ -86,8 +88,12 @@ bool event_of(const Control& control, Dice& dice, Event& event) {
             return !leads_out(control);
         case ControlKind::entry: {
             if (control.locked) return false;
+            // These complain when they lose the focus, and a walk has none.
+            for (const char* complaining : {"txtSD", "txtMass2", "txtMass3"})
+                if (control.name == complaining) return false;
             const std::vector<std::string> texts{"20", "3", "0", "abc", "153319", "2.5", ""};
-            event.kind = dice.one_in(3) ? EventKind::enter : EventKind::type;
+            // In an entry of several lines Enter begins a new one.
+            event.kind = !control.multiline && dice.one_in(3) ? EventKind::enter : EventKind::type;
             event.text = event.kind == EventKind::type ? dice.one_of(texts) : "";
             return true;
         }
@@ -101,7 +107,8 @@ bool event_of(const Control& control, Dice& dice, Event& event) {
             event.value = control.minimum + dice.below(control.maximum - control.minimum + 1);
             return true;
         case ControlKind::picture:
-            if (control.form.name != "frm2_Time") return false;
+            if (control.name == "pict3" || (control.form.name != "frm2_Time" && control.form.name != "frm2_UP"))
+                return false;
             event.kind = EventKind::press;
             event.button = 1 + dice.below(2);
             event.shift = dice.one_in(2) ? 1 : 0;
@@ -160,7 +167,8 @@ void lay_out_kit(const fs::path& work) {
     fs::create_directories(work);
     fs::copy(fs::path(KOLVAR_SOURCE_DIR) / "start-kit", work / "start-kit", fs::copy_options::recursive);
     // The whole path: the walk and its replay have different current folders.
-    std::ofstream(work / "start-kit" / "start_path") << '"' << (work / "start-kit").string() << "\"\r\n";
+    for (const char* path : {"start_path", "start_path_KolvAGE"})
+        std::ofstream(work / "start-kit" / path) << '"' << (work / "start-kit").string() << "\"\r\n";
 }
 
 // The first cells that differ, by name.
@@ -183,10 +191,17 @@ std::string difference(const RunState& a, const RunState& b) {
 }
 
 struct Road {
-    std::string mode;
+    std::string mode;  // what the internal-standard path is used for
     unsigned seed;
+    int path = 0;
 };
 std::ostream& operator<<(std::ostream& out, const Road& road) { return out << road.mode << ' ' << road.seed; }
+
+std::vector<std::string> data_of(int path) {
+    if (path == 1) return {"001-std-91500.csv", "003-zircon-A-1.csv", "test-01-no-Hg-235-232.csv"};
+    if (path == 3) return {"0-FLEX-UT19-50.xl"};
+    return {"nist-610-1.csv", "example-1.csv"};
+}
 
 class RandomWalk : public ::testing::TestWithParam<Road> {};
 
@@ -195,12 +210,13 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
     const fs::path work = base.path("work");
     lay_out_kit(work);
     Dice dice(GetParam().seed);
-    RandomPlatform os(dice, work.string());
+    const int path = GetParam().path;
+    RandomPlatform os(dice, work.string(), data_of(path));
     Program program(os, (work / "start-kit").string());
-    program.start(0);
+    program.start(path);
     Event mode;
     mode.window = "frm1_Settings";
-    mode.control = GetParam().mode;
+    mode.control = path == 0 ? GetParam().mode : path == 1 ? "cmdOK1" : "Command9";
     program.dispatch(mode);
     std::map<std::string, int> visits;
     for (int i = 0; i < 800 && !program.ended(); ++i) {
@@ -209,8 +225,9 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
         if (HasFatalFailure()) return;
     }
     EXPECT_FALSE(program.ended());
-    for (const auto& box : os.boxes) EXPECT_NE(box.kind, "fault") << box.text;
-    EXPECT_GT(visits["frm2_Time"], 0);
+    // Two slices are too few for the statistics of the ratios; on the other path no click leads to a fault.
+    for (const auto& box : os.boxes) EXPECT_TRUE(path != 0 || box.kind != "fault") << box.text;
+    EXPECT_GT(visits[path == 0 ? "frm2_Time" : "frm2_UP"], 0);
     const std::map<std::string, std::string> files = files_in(work);
 
     lay_out_kit(work);
@@ -220,7 +237,8 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
         base.write("walk.scn", test::bytes_of(journal) + "expect clipboard " + scenario_quoted(os.clip) + "\n");
     RunOptions options{(work / "start-kit").string(), work.string()};
     const std::string text = test::bytes_of(scenario);
-    const auto lines = std::count(text.begin() + static_cast<std::ptrdiff_t>(text.find("start\n")), text.end(), '\n');
+    const auto lines =
+        std::count(text.begin() + static_cast<std::ptrdiff_t>(text.find("\nstart") + 1), text.end(), '\n');
     int played = 0;
     options.watch = [&](Program& replay, const Desktop&) {
         if (++played == lines) {
@@ -235,7 +253,9 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
 
 INSTANTIATE_TEST_SUITE_P(Roads, RandomWalk,
                          ::testing::Values(Road{"optData", 1}, Road{"optData", 2}, Road{"optCreatSTM", 3},
-                                           Road{"optCreatSTM", 4}, Road{"optCreatBLK", 5}, Road{"optCreatBLK", 6}),
+                                           Road{"optCreatSTM", 4}, Road{"optCreatBLK", 5}, Road{"optCreatBLK", 6},
+                                           Road{"uranium_lead", 7, 1}, Road{"uranium_lead", 8, 1},
+                                           Road{"solution", 9, 3}, Road{"solution", 10, 3}),
                          [](const auto& walk) { return walk.param.mode + std::to_string(walk.param.seed); });
 
 }  // namespace

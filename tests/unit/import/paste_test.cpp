@@ -59,10 +59,16 @@ TEST_F(Paste, MixedLineEnds) {
 TEST_F(Paste, ALastLineWithoutItsEndIsDropped) {
     paste("Li7\tSi29\r\n1\t10\r\n3\t20\r\n5\t30\r\n7\t40");
     expect_three_slices();
+    EXPECT_EQ(rs.Sig(1, 4), 0);
     EXPECT_EQ(rs.Sig(2, 4), 0);
     paste("Li7\tSi29\r\n1\t10\r\n3\t20\r\n5\t30");
     EXPECT_TRUE(forms.frmPaste.shown);
     EXPECT_EQ(rs.nSlices, 2);
+}
+
+TEST_F(Paste, TheLastLineWithoutItsEndMustHoldNumbersAllTheSame) {
+    paste("Li7\tSi29\r\n1\t10\r\n3\t20\r\n5\t30\r\nsum\t60");
+    expect_refused();
 }
 
 TEST_F(Paste, TwoSlicesAreTooFew) {
@@ -204,6 +210,30 @@ TEST_F(Paste, BeyondTheLimitsTheCountsStandAtThem) {
     expect_refused();
     EXPECT_EQ(rs.nSlices, 6000);
     EXPECT_EQ(rs.Sig(2, 6000), 5);  // what was read so far stays
+}
+
+// The line behind the last slice that a table holds may lack its end.
+TEST_F(Paste, TheLastLineWithoutItsEndMayStandBehindTheLimit) {
+    paste(table(2, 6000) + "7\t8");
+    EXPECT_FALSE(forms.frmPaste.shown);
+    EXPECT_EQ(rs.nSlices, 6000);
+    EXPECT_EQ(rs.Sig(2, 6000), 5);
+}
+
+TEST_F(Paste, FiftyMegabytesAreReadToTheLimitOrRefusedAtOnce) {
+    const std::size_t bytes = 50'000'000;
+    std::string lines = "Li7\tSi29\n";
+    while (lines.size() < bytes) lines += "1\t2\n";
+    paste(lines);
+    expect_refused();
+    EXPECT_EQ(rs.nIso, 2);
+    EXPECT_EQ(rs.nSlices, 6000);
+    EXPECT_EQ(rs.Sig(2, 6000), 2);
+    for (const char filling : {'\t', '\r', '\n', 'x'}) {
+        shell.close(forms.frmPaste);
+        paste(std::string(bytes, filling));
+        expect_refused();
+    }
 }
 
 TEST_F(Paste, OtherPathsTakeTheNameOfTheirOwn) {

@@ -51,6 +51,14 @@ TEST_F(PeriodWindow, ShowsTheStandardsAndTheAssignmentOfTheSettings) {
     EXPECT_EQ(colour_of(96), 2);
 }
 
+TEST_F(PeriodWindow, TextsOfTheWindow) {
+    EXPECT_EQ(form().title, "Kolvar - Assignment of Internal Standards to elements");
+    EXPECT_EQ(form().lblHint1.text, "Select one IS by mouse click (gets wide margin) and click an element to assign.");
+    EXPECT_EQ(form().lblHint2.text, "to save this assignment into a setting file, press [Save As] in the next window");
+    EXPECT_EQ(form().cmdOK.text, "Accept");
+    EXPECT_EQ(form().cmsClose.text, "Close");
+}
+
 TEST_F(PeriodWindow, AnElementOfAnotherStandardIsNeutral) {
     open("Si29", "", "");
     EXPECT_EQ(colour_of(1), 1);

@@ -240,10 +240,18 @@ TEST_F(ReportWindows, AveragesEndAtTheSeventyFifthIsotope) {
     EXPECT_EQ(rs().ConcMean(75), Cell(Mark::empty));
     EXPECT_EQ(rs().ConcMean(76), Cell());
     const int three_columns = forms().frm_AverConc.width;
-    program->context().shell.close(forms().frm_AverConc);
-    rs().nIso = 25;
-    program->context().shell.open(forms().frm_AverConc);
-    EXPECT_EQ(forms().frm_AverConc.width * 3, three_columns);
+    const auto columns = [&](int isotopes) {
+        program->context().shell.close(forms().frm_AverConc);
+        rs().nIso = isotopes;
+        program->context().shell.open(forms().frm_AverConc);
+        return forms().frm_AverConc.width * 3 / three_columns;
+    };
+    EXPECT_EQ(columns(25), 1);
+    EXPECT_EQ(columns(26), 2);
+    EXPECT_EQ(columns(50), 2);
+    EXPECT_EQ(columns(51), 3);
+    EXPECT_TRUE(forms().frm_AverConc.lbl(50).visible);
+    EXPECT_FALSE(forms().frm_AverConc.lbl(51).visible);
 }
 
 }  // namespace

@@ -320,5 +320,68 @@ TEST_F(SetIsWindow, MarksAndRejectionsDoNotExcludeEachOther) {
         EXPECT_EQ(setting, Value(1));
 }
 
+TEST_F(SetIsWindow, CorrectionOfTheBlankIsOpenWhateverIsPlotted) {
+    open();
+    for (const int plot : {0, 1, 2}) {
+        click(form(), "optResultPlot", plot);
+        for (int pair = 1; pair <= 6; ++pair)
+            EXPECT_TRUE(form().chkBLK1(pair).usable() && form().chkBLK2(pair).usable()) << plot << " " << pair;
+    }
+}
+
+TEST_F(SetIsWindow, CaptionsOfTheControls) {
+    const std::pair<const Control&, const char*> captions[] = {
+        {form().lblAbbrSTD, "Abbreviation for all standards in file names: "},
+        {form().optCPSinData(0), "Counts"},
+        {form().optCPSinData(1), "CPS (counts per second)"},
+        {form().optBLK_IS(0), "Will be extracted from the Data File"},
+        {form().optBLK_IS(1), "From a Blank File"},
+        {form().lblSTC, "Default standard composition file "},
+        {form().lblSTM, "Default standard measurement file "},
+        {form().lblDWEtime, "[m. sec.]"},
+        {form().optDWE(0), "Uniform Dwell Time of "},
+        {form().optDWE(1), "From a Dwell Time File:"},
+        {form().opt1IS, "One Int. Stand."},
+        {form().opt2IS, "Two Int. Stand."},
+        {form().opt3IS, "Three Int. Stand."},
+        {form().lblHeadConc, "conc. [ppm]:"},
+        {form().lblRizsa(53), "for isotopes from"},
+        {form().lblRizsa(56), "for isotopes from"},
+        {form().optPeriod(0), "IS according to amu  (1, 2 or 3 IS)"},
+        {form().optPeriod(1), "Three IS selected on periodic system"},
+        {form().chkFormerSel, "Show former selection"},
+        {form().optResultPlot(0), "Cps ratios (Sample / Int. Stand.)"},
+        {form().optResultPlot(1), "Concentrations (ppm)"},
+        {form().optResultPlot(2), "Ratio of selected analytes"},
+        {form().chkHorizLines, "Show horizontal lines"},
+        {form().Frame6, "Preferred analyte ratios"},
+        {form().chkBLK1(1), "Blank corr."},
+        {form().chkBLK1(6), "Blank corr."},
+        {form().chkBLK2(1), "Blank corr."},
+        {form().chkBLK2(6), "Blank corr."},
+        {form().chkTestBlank, "Test the noise of blank after Step 2"},
+        {form().frameTable, "Data presented in the table of outliers"},
+        {form().optShowMiMa, "Show min., max."},
+        {form().optMiMa, "Reject all min., max."},
+        {form().optShowGrubbs, "Show Grubbs test"},
+        {form().optShowStDev, "Show relative std. deviation"},
+        {form().optStDev, "Reject if deviation  >"},
+        {form().optMean(0), "Median"},
+        {form().optMean(1), "Arithmetic mean"},
+        {form().optOneLine(0), "Results in one line, only concentrations"},
+        {form().optOneLine(1), "Results in two lines, with head"},
+        {form().lblComments, "Comments to this setting file:"},
+        {form().cmdApply, "Apply"},
+        {form().cmdSaveAs, "Save As"},
+        {form().cmdCancel, "Cancel"},
+        {form().cmdBrowSTC, "Browse"},
+        {form().cmdBrowSTM, "Browse"},
+        {form().cmdBrowDwe, "Browse"},
+        {form().cmdShow, "Show periodic system for assignment"},
+    };
+    for (const auto& [control, caption] : captions) EXPECT_EQ(control.text, caption) << control.address();
+    EXPECT_EQ(form().title, "Settings for LA-ICP-MS calculations using internal standard");
+}
+
 }  // namespace
 }  // namespace kolvar::test

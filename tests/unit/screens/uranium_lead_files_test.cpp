@@ -55,6 +55,7 @@ TEST_F(UraniumLeadFiles, TheOtherIsotopesCanBeMissing) {
     start();
     rs().HgChosen = false;
     rs().BlankFromData = 0;
+    panel().cmdOK1.visible = false;
     choose_file("Pb206,Pb207,Pb208,U238");
     EXPECT_EQ(only_window(), "frm2_UP");
     EXPECT_TRUE(rs().HgChosen);
@@ -62,6 +63,11 @@ TEST_F(UraniumLeadFiles, TheOtherIsotopesCanBeMissing) {
     EXPECT_EQ(rs().BlankFromData, 1);
     EXPECT_EQ(panel().lblUP.text, "spot.csv");
     EXPECT_TRUE(panel().cmdOK1.visible);
+    rs().BlankFromData = 0;
+    os.opens = {folder.path("spot.csv")};
+    click(screen(), "cmdNewFile");
+    EXPECT_EQ(only_window(), "frm2_UP");
+    EXPECT_EQ(rs().BlankFromData, 1);
 }
 
 TEST_F(UraniumLeadFiles, EachHgIsotopeCanBeTheAnswer) {

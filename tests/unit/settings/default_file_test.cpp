@@ -78,6 +78,7 @@ TEST_F(DefaultFile, EveryLineGoesToItsKey) {
     EXPECT_EQ(rs.setDelay, Value(77.5));
     EXPECT_EQ(rs.setErr, Value(80));
     EXPECT_EQ(rs.setComments, Value("text 82"));
+    EXPECT_EQ(rs.LineBuf, "Tis file must be in the directory that is specified in file: 'start_path_KolvAGE'.");
 }
 
 TEST_F(DefaultFile, IsWrittenAsItWasRead) {

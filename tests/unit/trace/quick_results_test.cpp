@@ -119,6 +119,16 @@ TEST_F(QuickResults, AnyOtherLayoutWritesNothingMore) {
     EXPECT_EQ(quick(), std::string(title) + heads + means_line);
 }
 
+TEST_F(QuickResults, AnyOtherLayoutStillCreatesTheFileBesideTheData) {
+    rs.setOneLine_IS = 2;
+    rs.AppPath2 = folder.path("data");
+    folder.write("0_quick-results", "of another day\r\n");
+    append();
+    EXPECT_TRUE(fs::exists(folder.path("data/0_quick-results")));
+    EXPECT_EQ(folder.read("data/0_quick-results"), "");
+    EXPECT_TRUE(os.boxes.empty());
+}
+
 TEST_F(QuickResults, MediansKeepTheStandardErrorOfTheMean) {
     rs.setMean_IS = 0;
     append();
