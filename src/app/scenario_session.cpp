@@ -13,7 +13,7 @@ namespace kolvar::scenario {
 namespace {
 
 // Windows that later versions bring.
-constexpr std::array<std::string_view, 4> windows_to_come = {"frm_SetUP", "frm_Set_FLEX", "frm_FileList", "frm_drift"};
+constexpr std::array<std::string_view, 2> windows_to_come = {"frm_FileList", "frm_drift"};
 
 }  // namespace
 

@@ -12,6 +12,7 @@ void connect_screens(Program& program) {
     connect_matrix_window(program);
     connect_output_windows(program);
     connect_set_is_window(program);
+    connect_defaults_windows(program);
     connect_period_window(program);
     connect_import_filter_window(program);
     connect_paste(program);

@@ -17,6 +17,7 @@ void connect_uranium_lead_reports(Program& program);
 void connect_matrix_window(Program& program);
 void connect_output_windows(Program& program);
 void connect_set_is_window(Program& program);
+void connect_defaults_windows(Program& program);
 void connect_period_window(Program& program);
 void connect_import_filter_window(Program& program);
 void connect_paste(Program& program);

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "core/numbers.hpp"
+#include "screens/save_marker.hpp"
 #include "screens/screens.hpp"
 #include "screens/set_is_values.hpp"
 #include "settings/settings_file.hpp"
@@ -11,7 +12,6 @@ namespace kolvar {
 
 namespace {
 
-constexpr const char* save_marker = "tenyleg szevelni";
 constexpr double heaviest_boundary = 300;  // amu; above every isotope
 constexpr double lightest_boundary = 6;    // amu; the lightest isotope that is measured
 constexpr const char* no_upper_end = "300";
@@ -72,19 +72,6 @@ void leave(Context& context) {
     }
     context.shell.close(context.forms.frm_SetIS);
 }
-
-// The marker stands while the save is under way and goes however it ends: a save that was refused must not come up
-// again with the next Apply.
-class SaveUnderWay {
-public:
-    explicit SaveUnderWay(RunState& rs) : rs_(rs) { rs.SaveRequest = save_marker; }
-    ~SaveUnderWay() { rs_.SaveRequest.clear(); }
-    SaveUnderWay(const SaveUnderWay&) = delete;
-    SaveUnderWay& operator=(const SaveUnderWay&) = delete;
-
-private:
-    RunState& rs_;
-};
 
 void save_as(Context& context) {
     const SaveUnderWay save(context.rs);

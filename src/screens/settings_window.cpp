@@ -5,6 +5,7 @@
 #include "core/files.hpp"
 #include "core/numbers.hpp"
 #include "import/data_file.hpp"
+#include "screens/defaults_window.hpp"
 #include "screens/screens.hpp"
 #include "screens/set_is_window.hpp"
 #include "screens/settings_panels.hpp"
@@ -268,9 +269,10 @@ void connect_settings_window(Program& program) {
     click("Command6", Command6);
     click("cmdOK1", cmdOK1);
     click("Command9", Command9);
-    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster", "cmdSet_1"})
+    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster"})
         click(later, [](Context& c) { say_not_yet(c.os); });
 
+    click("cmdSet_1", [](Context& c) { c.shell.open(c.forms.frm_SetUP); });
     click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });
     click("cmdSeq", [](Context& c) { c.shell.open(c.forms.frm_Batch_IS); });
 
@@ -292,7 +294,7 @@ void connect_settings_window(Program& program) {
                 return load_settings_from_file(context);
             case 1:
                 if (context.rs.Method == 0) return open_set_is(context, "back to start");
-                return say_not_yet(context.os);
+                return open_defaults_window(context);
             case 2:
                 return context.shell.open(context.forms.frm_InputForm);
             default:
@@ -302,7 +304,7 @@ void connect_settings_window(Program& program) {
     program.on(form, "mnuDefault", EventKind::click, [&context](const Event& event) {
         if (event.index == 0) return cmdChooseSET(context);
         if (event.index == 2) return context.shell.open(context.forms.frm_InputForm);
-        say_not_yet(context.os);
+        context.shell.open(context.forms.frm_SetUP);
     });
 }
 

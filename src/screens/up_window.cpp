@@ -7,6 +7,7 @@
 #include "core/files.hpp"
 #include "core/numbers.hpp"
 #include "import/data_file.hpp"
+#include "screens/defaults_window.hpp"
 #include "screens/plots.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
@@ -206,9 +207,10 @@ void connect_up_window(Program& program) {
     click("cmdNext", LeaveTimeSelection);
     click("cmdBack", cmdBack);
     click("cmdNewFile", choose_next_file);
+    click("cmdSett", open_defaults_window);
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later : {"cmdSett", "cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd", "cmdOpenSeq", "cmdShowTab",
-                              "cmdPlot", "cmdInterpolation"})
+    for (const char* later :
+         {"cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd", "cmdOpenSeq", "cmdShowTab", "cmdPlot", "cmdInterpolation"})
         click(later, [](Context& c) { say_not_yet(c.os); });
     for (const char* place : {"", "pictRightSide"})
         program.on(form, place, EventKind::dblclick, [&context](const Event&) { show_averages(context); });

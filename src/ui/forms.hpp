@@ -13,7 +13,9 @@
 #include "ui/forms/frm_input_form.hpp"
 #include "ui/forms/frm_paste.hpp"
 #include "ui/forms/frm_period.hpp"
+#include "ui/forms/frm_set_flex.hpp"
 #include "ui/forms/frm_set_is.hpp"
+#include "ui/forms/frm_set_up.hpp"
 #include "ui/forms/reports.hpp"
 #include "ui/forms/uranium_lead_reports.hpp"
 
@@ -35,16 +37,18 @@ struct Forms {
     FrmMissingUPb frm_Missing_UPb;
     FrmHgIsot frm_Hg_isot;
     FrmSetIS frm_SetIS;
+    FrmSetUP frm_SetUP;
+    FrmSetFLEX frm_Set_FLEX;
     FrmPeriod frm_Period;
     FrmInputForm frm_InputForm;
     FrmPaste frmPaste;
     FrmHelp1 frmHelp1;
 
     [[nodiscard]] std::vector<Form*> all() {
-        return {&frm1_Settings, &frm2_Time,     &frm2_UP,         &frm3_Matrix, &frm4_Output,
-                &frm5_Preview,  &frm_Dwell,     &frm_MissingIso,  &frm_Omit,    &frm_ChoseDir,
-                &frm_AverConc,  &frm_Batch_IS,  &frm_Missing_UPb, &frm_Hg_isot, &frm_SetIS,
-                &frm_Period,    &frm_InputForm, &frmPaste,        &frmHelp1};
+        return {&frm1_Settings,   &frm2_Time,      &frm2_UP,   &frm3_Matrix,  &frm4_Output,  &frm5_Preview,
+                &frm_Dwell,       &frm_MissingIso, &frm_Omit,  &frm_ChoseDir, &frm_AverConc, &frm_Batch_IS,
+                &frm_Missing_UPb, &frm_Hg_isot,    &frm_SetIS, &frm_SetUP,    &frm_Set_FLEX, &frm_Period,
+                &frm_InputForm,   &frmPaste,       &frmHelp1};
     }
     // nullptr when there is no window of this name.
     [[nodiscard]] Form* find(const std::string& name) {

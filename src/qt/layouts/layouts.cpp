@@ -19,6 +19,8 @@ void lay_out(FormWindow& window, const Form& form, Program& program) {
     if (&form == &forms.frm_AverConc) lay_out_averages(window, forms.frm_AverConc);
     if (&form == &forms.frm_Batch_IS) lay_out_batch(window, forms.frm_Batch_IS);
     if (&form == &forms.frm_SetIS) lay_out_set_is(window, forms.frm_SetIS);
+    if (&form == &forms.frm_SetUP) lay_out_set_up(window, forms.frm_SetUP);
+    if (&form == &forms.frm_Set_FLEX) lay_out_set_flex(window, forms.frm_Set_FLEX);
     if (&form == &forms.frm_Period) lay_out_period(window, forms.frm_Period);
     if (&form == &forms.frm_InputForm) lay_out_import_filter(window, forms.frm_InputForm);
     if (&form == &forms.frmPaste) lay_out_paste(window, forms.frmPaste);

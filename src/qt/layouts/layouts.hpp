@@ -24,6 +24,8 @@ void lay_out_folder(FormWindow& window, const FrmChoseDir& form);
 void lay_out_averages(FormWindow& window, const FrmAverConc& form);
 void lay_out_batch(FormWindow& window, const FrmBatchIS& form);
 void lay_out_set_is(FormWindow& window, FrmSetIS& form);
+void lay_out_set_up(FormWindow& window, FrmSetUP& form);
+void lay_out_set_flex(FormWindow& window, FrmSetFLEX& form);
 void lay_out_period(FormWindow& window, const FrmPeriod& form);
 void lay_out_import_filter(FormWindow& window, const FrmInputForm& form);
 void lay_out_paste(FormWindow& window, const FrmPaste& form);

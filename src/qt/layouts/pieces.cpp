@@ -1,10 +1,23 @@
 #include "qt/layouts/pieces.hpp"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
+
 namespace kolvar {
 
 namespace {
 
 LabelView& label_of(FormWindow& window, const Control& control) { return *static_cast<LabelView*>(window.of(control)); }
+
+class RoomyArea : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+    [[nodiscard]] QSize sizeHint() const override {
+        const QSize wanted = widget()->sizeHint() + QSize(2, 2);
+        return wanted.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(20, 90));
+    }
+};
 
 }  // namespace
 
@@ -60,6 +73,27 @@ QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*
     row->addStretch(1);
     for (const Control* control : right) row->addWidget(window.of(*control));
     return row;
+}
+
+QGridLayout* grid_in(FormWindow& window, const Control& holder) {
+    auto* grid = new QGridLayout(window.of(holder));
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(4);
+    return grid;
+}
+
+void narrow(FormWindow& window, std::initializer_list<const Control*> entries, int width) {
+    for (const Control* entry : entries) window.of(*entry)->setFixedWidth(width);
+}
+
+QWidget* roomy_area(FormWindow& window, QWidget* contents) {
+    auto* area = new RoomyArea(window.body());
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(contents);
+    area->setMinimumSize(480, 300);
+    return area;
 }
 
 }  // namespace kolvar

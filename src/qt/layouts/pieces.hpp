@@ -24,5 +24,10 @@ QLabel* caption(FormWindow& window, const char* text);
 // The buttons that lead on, at the right end of a row.
 QHBoxLayout* button_row(FormWindow& window, std::initializer_list<const Control*> left,
                         std::initializer_list<const Control*> right);
+// A grid that fills a frame or panel.
+QGridLayout* grid_in(FormWindow& window, const Control& holder);
+void narrow(FormWindow& window, std::initializer_list<const Control*> entries, int width);
+// Asks for all the room that its contents need, as far as the screen has it; then they scroll.
+QWidget* roomy_area(FormWindow& window, QWidget* contents);
 
 }  // namespace kolvar

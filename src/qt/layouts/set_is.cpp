@@ -1,8 +1,5 @@
 // The settings of the internal-standard path in three columns: what is measured, how it is plotted, what comes out.
 #include <QGroupBox>
-#include <QGuiApplication>
-#include <QScreen>
-#include <QScrollArea>
 
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
@@ -11,27 +8,6 @@
 namespace kolvar {
 
 namespace {
-
-// Asks for all the room that its contents need, as far as the screen has it.
-class RoomyArea : public QScrollArea {
-public:
-    using QScrollArea::QScrollArea;
-    [[nodiscard]] QSize sizeHint() const override {
-        const QSize wanted = widget()->sizeHint() + QSize(2, 2);
-        return wanted.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(20, 90));
-    }
-};
-
-QGridLayout* grid_in(FormWindow& window, const Control& holder) {
-    auto* grid = new QGridLayout(window.of(holder));
-    grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(4);
-    return grid;
-}
-
-void narrow(FormWindow& window, std::initializer_list<const Control*> entries, int width) {
-    for (const Control* entry : entries) window.of(*entry)->setFixedWidth(width);
-}
 
 void lay_out_files(FormWindow& window, const FrmSetIS& f) {
     auto* grid = grid_in(window, f.frameFiles);
@@ -204,15 +180,9 @@ void lay_out_set_is(FormWindow& window, FrmSetIS& f) {
     window.of(f.txtComments)->setMaximumHeight(window.of(f.txtAbbrSTD)->sizeHint().height() * 4);
     for (QVBoxLayout* column : {measured, plotted, given}) columns->addLayout(column, 1);
 
-    auto* area = new RoomyArea(window.body());
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(inner);
-    area->setMinimumSize(480, 300);
     auto* whole = new QVBoxLayout(window.body());
     whole->setContentsMargins(0, 0, 0, 8);
-    whole->addWidget(area, 1);
+    whole->addWidget(roomy_area(window, inner), 1);
     auto* buttons = button_row(window, {}, {&f.cmdApply, &f.cmdSaveAs, &f.cmdCancel});
     buttons->setContentsMargins(8, 0, 8, 0);
     whole->addLayout(buttons);
