@@ -261,6 +261,8 @@ void FormWindow::sync_colours(const Control& control, QWidget* widget) {
     const bool field = control.kind == ControlKind::entry || control.kind == ControlKind::list;
     QPalette colours;
     if (control.back) colours.setColor(field ? QPalette::Base : QPalette::Window, qt_colour(*control.back));
+    // A list that can't be typed into is painted as a button.
+    if (control.back && control.kind == ControlKind::list) colours.setColor(QPalette::Button, qt_colour(*control.back));
     if (control.fore)
         for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
             colours.setColor(role, qt_colour(*control.fore));

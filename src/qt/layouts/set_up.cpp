@@ -6,11 +6,29 @@ namespace kolvar {
 
 namespace {
 
-constexpr int number_width = 64;
+constexpr int number_width = 58;
+
+QGridLayout* tight_grid_in(FormWindow& window, const Control& holder) {
+    QGridLayout* const grid = grid_in(window, holder);
+    grid->setContentsMargins(6, 3, 6, 5);
+    return grid;
+}
+
+// What changes no result stands back.
+void small(FormWindow& window, const Control& frame) {
+    QFont font = window.of(frame)->font();
+    font.setPointSizeF(font.pointSizeF() * 0.8);
+    window.of(frame)->setFont(font);
+}
+
+// Controls in a line of a frame of their own.
+void lay_out_line(FormWindow& window, const Control& frame, std::initializer_list<const Control*> controls) {
+    tight_grid_in(window, frame)->addLayout(row_of(window, controls), 0, 0);
+}
 
 QVBoxLayout* headed_column(FormWindow& window, const char* heading) {
     auto* column = new QVBoxLayout;
-    column->setSpacing(5);
+    column->setSpacing(4);
     QLabel* const head = caption(window, heading);
     QFont font = head->font();
     font.setBold(true);
@@ -30,21 +48,23 @@ void lay_out_pairs(FormWindow& window, QGridLayout* grid, const std::vector<std:
     for (const auto& [label, entry] : pairs) {
         grid->addWidget(window.of(*label), at / in_a_line, at % in_a_line * 2);
         grid->addWidget(window.of(*entry), at / in_a_line, at % in_a_line * 2 + 1);
-        window.of(*entry)->setMinimumWidth(44);
+        window.of(*entry)->setMinimumWidth(40);
         ++at;
     }
     for (int k = 0; k < in_a_line; ++k) grid->setColumnStretch(k * 2 + 1, 1);
 }
 
 QVBoxLayout* lay_out_files(FormWindow& window, DefaultsForm& f) {
-    auto* method = grid_in(window, f.frameMethod);
-    for (int k = 0; k <= 3; ++k) method->addWidget(window.of(f.optMethod(k)), k / 2, k % 2);
-    auto* mineral = grid_in(window, f.frameMinerals);
+    auto* method = tight_grid_in(window, f.frameMethod);
+    method->addLayout(row_of(window, {&f.optMethod(0), &f.optMethod(1), &f.optMethod(2)}), 0, 0);
+    method->addWidget(window.of(f.optMethod(3)), 1, 0);
+    auto* mineral = tight_grid_in(window, f.frameMinerals);
     mineral->addWidget(window.of(f.comboMineral), 0, 0);
     mineral->addWidget(window.of(f.txtMineral), 0, 1);
     mineral->addWidget(window.of(f.Label7), 1, 0, 1, 2);
     mineral->setRowMinimumHeight(1, window.of(f.Label7)->sizeHint().height());
     mineral->setColumnStretch(1, 1);
+    window.of(f.txtAbbrSTD)->setMinimumWidth(number_width);
     auto* column = headed_column(window, "File names and standards");
     add(window, column, {&f.frameMethod});
     column->addLayout(row_of(window, {&f.lblAbbrSTD, &f.txtAbbrSTD}, 1));
@@ -54,7 +74,7 @@ QVBoxLayout* lay_out_files(FormWindow& window, DefaultsForm& f) {
 
 // The row of a standard: each value beside its error. The question for a new name takes the place below.
 void lay_out_standards(FormWindow& window, FrmSetUP& f) {
-    auto* grid = grid_in(window, f.frameStandards);
+    auto* grid = tight_grid_in(window, f.frameStandards);
     grid->addWidget(window.of(f.comboStd), 0, 0, 1, 3);
     grid->addWidget(window.of(f.lblStd(0)), 1, 0);
     grid->addWidget(window.of(f.txtStd(0)), 1, 1, 1, 2);
@@ -80,7 +100,7 @@ void lay_out_standards(FormWindow& window, FrmSetUP& f) {
 }
 
 QVBoxLayout* lay_out_corrections(FormWindow& window, DefaultsForm& f) {
-    lay_out_pairs(window, grid_in(window, f.frameDwell),
+    lay_out_pairs(window, tight_grid_in(window, f.frameDwell),
                   {{&f.lblDwe(1), &f.txtDwe1},
                    {&f.lblDwe(2), &f.txtDwe2},
                    {&f.lblDwe(3), &f.txtDwe3},
@@ -89,7 +109,7 @@ QVBoxLayout* lay_out_corrections(FormWindow& window, DefaultsForm& f) {
                    {&f.lblDwe(6), &f.txtDwe6},
                    {&f.lblDwe(7), &f.txtDwe7}},
                   4);
-    lay_out_pairs(window, grid_in(window, f.frameIsotopes),
+    lay_out_pairs(window, tight_grid_in(window, f.frameIsotopes),
                   {{&f.lblHg8_4, &f.txtHg8_4},
                    {&f.lblPb6_4, &f.txtPb6_4},
                    {&f.lblHg9_4, &f.txtHg9_4},
@@ -106,7 +126,8 @@ QVBoxLayout* lay_out_corrections(FormWindow& window, DefaultsForm& f) {
 }
 
 void lay_out_common_lead(FormWindow& window, FrmSetUP& f) {
-    auto* grid = grid_in(window, f.frameCommonLead);
+    auto* grid = tight_grid_in(window, f.frameCommonLead);
+    small(window, f.frameCommonLead);
     int row = 0;
     for (const Control* line :
          std::initializer_list<const Control*>{&f.chkCommLead1, &f.Option1, &f.Option2, &f.Option3})
@@ -121,17 +142,17 @@ void lay_out_common_lead(FormWindow& window, FrmSetUP& f) {
 }
 
 QVBoxLayout* lay_out_plots(FormWindow& window, DefaultsForm& f, const Control* former_selection) {
-    window.of(f.frameLin)->setLayout(row_of(window, {&f.optLin(0), &f.optLin(1)}));
-    window.of(f.frameLinRatios)->setLayout(row_of(window, {&f.optLinRatios(0), &f.optLinRatios(1)}));
-    window.of(f.frameConcordia)->setLayout(row_of(window, {&f.optConcordia(0), &f.optConcordia(1)}));
+    lay_out_line(window, f.frameLin, {&f.optLin(0), &f.optLin(1)});
+    lay_out_line(window, f.frameLinRatios, {&f.optLinRatios(0), &f.optLinRatios(1)});
+    lay_out_line(window, f.frameConcordia, {&f.optConcordia(0), &f.optConcordia(1)});
 
-    auto* plots = grid_in(window, f.frameShow);
+    auto* plots = tight_grid_in(window, f.frameShow);
     const Control* const boxes[] = {&f.chk68, &f.chk75, &f.chk82, &f.chkUTh, &f.chkPbPb};
     for (int k = 0; k < 5; ++k) plots->addWidget(window.of(*boxes[k]), k / 2, k % 2);
     plots->addWidget(window.of(f.chk_LinReg), 3, 0, 1, 2);
     if (former_selection != nullptr) plots->addWidget(window.of(*former_selection), 4, 0, 1, 2);
 
-    auto* outliers = grid_in(window, f.frameOutliers);
+    auto* outliers = tight_grid_in(window, f.frameOutliers);
     outliers->addWidget(window.of(f.chkShowOL), 0, 0);
     outliers->addWidget(window.of(f.lblOL), 0, 1);
     const Control* const tested[] = {&f.chkOL68, &f.chkOL75, &f.chkOL82, &f.chkOLUTh, &f.chkOLPbPb};
@@ -146,7 +167,7 @@ QVBoxLayout* lay_out_plots(FormWindow& window, DefaultsForm& f, const Control* f
 }
 
 void lay_out_refinement(FormWindow& window, DefaultsForm& f) {
-    auto* grid = grid_in(window, f.frameZizz);
+    auto* grid = tight_grid_in(window, f.frameZizz);
     grid->addWidget(window.of(f.txtZizzRange), 0, 0);
     grid->addWidget(window.of(f.comboBzz), 0, 1);
     grid->addWidget(window.of(f.lblBzzPlot), 1, 0);
@@ -156,12 +177,13 @@ void lay_out_refinement(FormWindow& window, DefaultsForm& f) {
     grid->addWidget(window.of(f.chkBzzPrompt_UP), 3, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     window.of(f.txtZizzRange)->setMinimumWidth(44);
+    window.of(f.comboBzzPlot)->setMinimumWidth(122);
 }
 
 QVBoxLayout* lay_out_results(FormWindow& window, DefaultsForm& f) {
-    window.of(f.frameAver)->setLayout(row_of(window, {&f.optAverage(0), &f.optAverage(1)}));
-    window.of(f.Frame15)->setLayout(row_of(window, {&f.optMean(0), &f.optMean(1)}));
-    auto* tzero = grid_in(window, f.Frame9);
+    lay_out_line(window, f.frameAver, {&f.optAverage(0), &f.optAverage(1)});
+    lay_out_line(window, f.Frame15, {&f.optMean(0), &f.optMean(1)});
+    auto* tzero = tight_grid_in(window, f.Frame9);
     tzero->addLayout(row_of(window, {&f.optTzero(0), &f.optTzero(1)}), 0, 0);
     tzero->addWidget(window.of(f.optTzero(2)), 1, 0);
     narrow(window, {&f.txtDelay}, 44);
@@ -170,17 +192,18 @@ QVBoxLayout* lay_out_results(FormWindow& window, DefaultsForm& f) {
     tzero->addLayout(delay, 2, 0);
     tzero->addWidget(window.of(f.chkPbAver), 3, 0);
 
-    auto* errors = grid_in(window, f.frameErr);
-    errors->addLayout(row_of(window, {&f.comboErr, &f.lblErr}), 0, 0, 1, 2);
-    for (int k = 0; k <= 3; ++k) errors->addWidget(window.of(f.optErr(k)), 1 + k / 2, k % 2);
-    window.of(f.framePasteDat)->setLayout(column_of(window, {&f.optPasteDat(0), &f.optPasteDat(1)}));
+    auto* errors = tight_grid_in(window, f.frameErr);
+    errors->addLayout(row_of(window, {&f.comboErr, &f.lblErr}), 0, 0);
+    for (int k = 0; k <= 3; ++k) errors->addWidget(window.of(f.optErr(k)), 1 + k, 0);
+    tight_grid_in(window, f.framePasteDat)->addLayout(column_of(window, {&f.optPasteDat(0), &f.optPasteDat(1)}), 0, 0);
     auto* column = headed_column(window, "Results, errors, output");
     add(window, column, {&f.frameAver, &f.Frame15, &f.Frame9, &f.frameErr, &f.framePasteDat});
     return column;
 }
 
 void lay_out_unused(FormWindow& window, DefaultsForm& f) {
-    auto* grid = grid_in(window, f.frameUnused);
+    auto* grid = tight_grid_in(window, f.frameUnused);
+    small(window, f.frameUnused);
     const Control* const cells[3][3] = {{&f.Option10, &f.Option11, &f.Option12},
                                         {&f.Option18, &f.Option19, &f.Option20},
                                         {&f.Option21, &f.Option22, &f.Option23}};
@@ -200,12 +223,13 @@ void add_comments(FormWindow& window, DefaultsForm& f, QVBoxLayout* column) {
 void put_together(FormWindow& window, DefaultsForm& f, std::initializer_list<QVBoxLayout*> columns) {
     auto* inner = new QWidget;
     auto* across = new QHBoxLayout(inner);
-    across->setContentsMargins(8, 6, 8, 4);
-    across->setSpacing(10);
+    across->setContentsMargins(6, 4, 6, 2);
+    across->setSpacing(6);
     for (QVBoxLayout* column : columns) {
         column->addStretch(1);
-        across->addLayout(column, 1);
+        across->addLayout(column, 0);
     }
+    across->addStretch(1);
     auto* whole = new QVBoxLayout(window.body());
     whole->setContentsMargins(0, 0, 0, 8);
     whole->addWidget(roomy_area(window, inner), 1);
@@ -245,13 +269,13 @@ void lay_out_set_up(FormWindow& window, FrmSetUP& f) {
 
 void lay_out_set_flex(FormWindow& window, FrmSetFLEX& f) {
     QVBoxLayout* const files = lay_out_files(window, f);
-    auto* analytes = grid_in(window, f.framePref);
+    auto* analytes = tight_grid_in(window, f.framePref);
     for (ListBox& list : f.comboPref) {
         analytes->addWidget(window.of(list), (list.index - 1) % 5, (list.index - 1) / 5);
         window.of(list)->setMinimumWidth(84);
     }
     window.of(f.framePref)->setToolTip(QStringLiteral("Recognised from the next data file on"));
-    auto* ratios = grid_in(window, f.Frame6);
+    auto* ratios = tight_grid_in(window, f.Frame6);
     for (int pair = 1; pair <= 6; ++pair) {
         ratios->addWidget(window.of(f.chkRatio(pair)), pair, 0);
         ratios->addWidget(window.of(f.comboRatio(2 * pair - 2)), pair, 1);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int pointer_height = 18;  // slice and value under the pointer
 
-QGridLayout* grid_in(FormWindow& window, const Control& holder) {
+QGridLayout* tight_grid_in(FormWindow& window, const Control& holder) {
     auto* grid = new QGridLayout(window.of(holder));
     grid->setContentsMargins(4, 4, 4, 4);
     grid->setHorizontalSpacing(6);
@@ -42,7 +42,7 @@ void right_aligned(FormWindow& window, const Label& label) {
 
 // Analyte, mean cps, margin over the detection limit. Hands back the mark of the last curve, that of the Hg isotope.
 QWidget* lay_out_signals(FormWindow& window, const Frm2UP& f) {
-    auto* grid = grid_in(window, f.picUP_elems);
+    auto* grid = tight_grid_in(window, f.picUP_elems);
     grid->addWidget(caption(window, "cps"), 0, 2, Qt::AlignRight);
     grid->addWidget(caption(window, "x LoD"), 0, 3, Qt::AlignRight);
     const int colours[] = {10, 2, 9, 13, 12, 6, 5, 0};  // of the curves
@@ -79,7 +79,7 @@ QWidget* lay_out_signals(FormWindow& window, const Frm2UP& f) {
 
 // A row for each ratio: shown on the plot, result, scatter over counting statistics, skewness, regression.
 void lay_out_ratios(FormWindow& window, Frm2UP& f) {
-    auto* grid = grid_in(window, f.pictResults);
+    auto* grid = tight_grid_in(window, f.pictResults);
     for (const Label* head : {&f.lblAv, &f.lblMed, &f.lblTz}) grid->addWidget(window.of(*head), 0, 1, Qt::AlignRight);
     const char* const heads[] = {"E-Poisson", "skewness", "slope b", "r"};
     for (int k = 0; k < 4; ++k) grid->addWidget(caption(window, heads[k]), 0, 2 + k, Qt::AlignRight);
@@ -112,7 +112,7 @@ void lay_out_ratios(FormWindow& window, Frm2UP& f) {
 }
 
 void lay_out_ages(FormWindow& window, const Frm2UP& f) {
-    auto* grid = grid_in(window, f.Frame1);
+    auto* grid = tight_grid_in(window, f.Frame1);
     const std::pair<const Label*, const Label*> ages[] = {{&f.lblAge06_38Head, &f.lblAge06_38},
                                                           {&f.lblAge07_35Head, &f.lblAge07_35}};
     for (int k = 0; k < 2; ++k) {
@@ -155,7 +155,7 @@ void lay_out_outliers(FormWindow& window, const Frm2UP& f) {
 }
 
 void lay_out_refinement(FormWindow& window, const Frm2UP& f) {
-    auto* grid = grid_in(window, f.FrameBzzz);
+    auto* grid = tight_grid_in(window, f.FrameBzzz);
     window.of(f.txtZizzRange)->setFixedWidth(50);
     grid->addWidget(window.of(f.txtZizzRange), 0, 0);
     grid->addWidget(window.of(f.comboBzz), 0, 1, 1, 2);
@@ -176,7 +176,7 @@ void lay_out_refinement(FormWindow& window, const Frm2UP& f) {
 }
 
 void lay_out_diagram(FormWindow& window, const Frm2UP& f) {
-    auto* grid = grid_in(window, f.Frame2);
+    auto* grid = tight_grid_in(window, f.Frame2);
     grid->addWidget(window.of(f.optConcord(0)), 0, 0, 1, 2);
     grid->addWidget(window.of(f.Command1), 0, 2, Qt::AlignRight);
     grid->addWidget(window.of(f.optConcord(1)), 1, 0, 1, 3);
