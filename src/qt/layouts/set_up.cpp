@@ -56,8 +56,8 @@ void lay_out_pairs(FormWindow& window, QGridLayout* grid, const std::vector<std:
 
 QVBoxLayout* lay_out_files(FormWindow& window, DefaultsForm& f) {
     auto* method = tight_grid_in(window, f.frameMethod);
-    method->addLayout(row_of(window, {&f.optMethod(0), &f.optMethod(1), &f.optMethod(2)}), 0, 0);
-    method->addWidget(window.of(f.optMethod(3)), 1, 0);
+    method->addLayout(row_of(window, {&f.optMethod(0), &f.optMethod(1)}), 0, 0);
+    for (int k = 2; k <= 3; ++k) method->addWidget(window.of(f.optMethod(k)), k - 1, 0);
     auto* mineral = tight_grid_in(window, f.frameMinerals);
     mineral->addWidget(window.of(f.comboMineral), 0, 0);
     mineral->addWidget(window.of(f.txtMineral), 0, 1);
@@ -177,7 +177,7 @@ void lay_out_refinement(FormWindow& window, DefaultsForm& f) {
     grid->addWidget(window.of(f.chkBzzPrompt_UP), 3, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     window.of(f.txtZizzRange)->setMinimumWidth(44);
-    window.of(f.comboBzzPlot)->setMinimumWidth(122);
+    window.of(f.comboBzzPlot)->setMinimumWidth(134);
 }
 
 QVBoxLayout* lay_out_results(FormWindow& window, DefaultsForm& f) {
@@ -223,8 +223,8 @@ void add_comments(FormWindow& window, DefaultsForm& f, QVBoxLayout* column) {
 void put_together(FormWindow& window, DefaultsForm& f, std::initializer_list<QVBoxLayout*> columns) {
     auto* inner = new QWidget;
     auto* across = new QHBoxLayout(inner);
-    across->setContentsMargins(6, 4, 6, 2);
-    across->setSpacing(6);
+    across->setContentsMargins(4, 4, 4, 2);
+    across->setSpacing(5);
     for (QVBoxLayout* column : columns) {
         column->addStretch(1);
         across->addLayout(column, 0);

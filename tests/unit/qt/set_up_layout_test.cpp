@@ -114,6 +114,8 @@ TEST_F(DefaultsLayout, AStandardShowsEachValueBesideItsError) {
 }
 
 TEST_F(DefaultsLayout, WhatHasNoEffectSaysSo) {
+    show(forms.frm_SetUP);
+    show(forms.frm_Set_FLEX);
     for (DefaultsForm* form : std::initializer_list<DefaultsForm*>{&forms.frm_SetUP, &forms.frm_Set_FLEX})
         for (const Control* control : form->without_effect)
             EXPECT_EQ(widget<QWidget>(*control).toolTip().toStdString(), "stored, not used in the calculation")
