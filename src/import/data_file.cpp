@@ -87,6 +87,7 @@ void drop_intervals(RunState& rs) {
     rs.SelNGood = 0;
     rs.SelLow.clear();
     rs.SelUpp.clear();
+    rs.TrialLimits = false;
     rs.BlkLow.clear();
     rs.BlkUpp.clear();
     rs.SelLowX = 0;

@@ -67,6 +67,8 @@ public:
         if (sign != ".") program_.journal_.before("decimal " + scenario_quoted(sign));
         return sign;
     }
+    void wait_cursor(bool shown) override { os_.wait_cursor(shown); }
+    void progress(int done, int all) override { os_.progress(done, all); }
     std::size_t room_on_disk(std::size_t wanted) override { return os_.room_on_disk(wanted); }
 
 private:

@@ -1,4 +1,6 @@
 // The buttons that look for better limits of the selected interval and take them.
+#include <exception>
+
 #include "screens/plots.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
@@ -9,6 +11,23 @@
 namespace kolvar {
 
 namespace {
+
+// While the search runs nothing can be rejected. A fault that ends it leaves no proposal, and the buttons as before.
+class Searching {
+public:
+    explicit Searching(Frm2UP& form) : form_(form) { form_.cmdReject.enabled = false; }
+    ~Searching() {
+        if (std::uncaught_exceptions() == faults_) return;
+        form_.cmdReject.enabled = form_.cmdZizeges.visible = true;
+        form_.cmdAccept.visible = form_.lblBestLow.visible = form_.lblBestUpp.visible = false;
+    }
+    Searching(const Searching&) = delete;
+    Searching& operator=(const Searching&) = delete;
+
+private:
+    Frm2UP& form_;
+    int faults_ = std::uncaught_exceptions();
+};
 
 // Moves the marks to the proposal, as two clicks of the user would.
 void take_proposal(Context& context) {
@@ -39,7 +58,7 @@ void cmdZizeges(Context& context) {
         draw_XY(context);
         draw_UPratio(context);
     }
-    form.cmdReject.enabled = false;
+    const Searching searching(form);
     form.lblBestLow.text.clear();
     form.lblBestUpp.text.clear();
     ziz_Manager_UP(context);

@@ -39,13 +39,6 @@ void mark_beam_start(Context& context, const TimeScreen& screen) {
     draw_UP(context);
 }
 
-void forget_proposal(Frm2UP& form) {
-    form.lblBestLow.visible = form.lblBestUpp.visible = form.lblExplain.visible = false;
-    for (Label* label : {&form.lblBestLow, &form.lblBestUpp, &form.lblBest68, &form.lblBest75, &form.lblImprove,
-                         &form.lblZizzMin1, &form.lblZizzMin2, &form.lblRMS68, &form.lblRMS75})
-        label->text.clear();
-}
-
 bool shows_text(const Label& label) { return label.visible && !label.text.empty(); }
 
 // The user overrides a refinement that was not accepted, or one that found nothing: the limits that the search started
@@ -234,6 +227,13 @@ void mark_selection(Context& context, TimeScreen& screen) {
         draw_UP(context);
     }
     enable_what_the_limits_allow(context, screen);
+}
+
+void forget_proposal(Frm2UP& form) {
+    form.lblBestLow.visible = form.lblBestUpp.visible = form.lblExplain.visible = false;
+    for (Label* label : {&form.lblBestLow, &form.lblBestUpp, &form.lblBest68, &form.lblBest75, &form.lblImprove,
+                         &form.lblZizzMin1, &form.lblZizzMin2, &form.lblRMS68, &form.lblRMS75})
+        label->text.clear();
 }
 
 void OnBeamStartLabel(RunState& rs) { rs.WaitBeamStart = true; }

@@ -19,6 +19,8 @@ void mark_selection(Context& context, TimeScreen& screen);
 void OnBeamStartLabel(RunState& rs);
 // The plot's width has changed: positions anew from the slices.
 void positions_from_slices(RunState& rs, const TimeScreen& screen);
+// The captions and figures of a refinement go.
+void forget_proposal(Frm2UP& form);
 // The labels of the limits move to their places beside the plot and show the limits.
 void place_limit_labels(const RunState& rs, TimeScreen& screen);
 

@@ -56,7 +56,7 @@ void place_scale_labels(Frm2UP& form) {
         decade->left = left;
         decade->placed = true;
     }
-    for (Label* limit : {&form.lblLow, &form.lblUpp}) {
+    for (Label* limit : {&form.lblLow, &form.lblUpp, &form.lblBestLow, &form.lblBestUpp}) {
         limit->width = 600;
         limit->height = label_height;
     }

@@ -80,11 +80,15 @@ void show_refinement(RunState& rs, Frm2UP& form) {
     form.txtZizzRange.text = rs.setZizzRange.text();
     fill_list(form.comboBzz, {"%", "data"}, rs.setZizzType);
     if (rs.ColU235 == 0)
-        fill_list(form.Combo7, {"Tera-Wasserburg"}, 0);
+        fill_list(form.Combo7, {"Tera-Wasserburg"}, rs.setBzzPlot = 0);
     else
         fill_list(form.Combo7, {"Wetherill", "Tera-Wasserburg"}, rs.setBzzPlot);
     fill_list(form.Combo8, {"RMS", "Skewness"}, rs.setBzzMethod);
     form.chkBzzPrompt.set_value_quietly(rs.setBzz_Prompt.val() == 1 ? 1 : 0);
+    // A proposal that was not taken went with the window.
+    rs.ZizzRunning = false;
+    form.cmdAccept.visible = false;
+    forget_proposal(form);
 }
 
 // A window that comes up shows nothing of the file before: what is measured is filled in by the first drawing.

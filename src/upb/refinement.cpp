@@ -1,5 +1,6 @@
 #include "upb/refinement.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/numbers.hpp"
@@ -45,8 +46,8 @@ void measure_distances(RunState& rs) {
     const int low = rs.SelLow.val();
     const int upp = rs.SelUpp.val();
     sort_slices(rs, rs.Rat68, rs.Sorted1, false);
-    if (plot == 0) sort_slices(rs, rs.Rat75, rs.Sorted2, false);
-    if (plot == 1) sort_slices(rs, rs.Rat76, rs.Sorted2, false);
+    // For another diagram, which a default file may name, what the first sort has left is sorted: sentinels.
+    sort_slices(rs, plot == 0 ? rs.Rat75 : plot == 1 ? rs.Rat76 : rs.MedianWork, rs.Sorted2, false);
     const auto z68 = [&](int t) { return quotient(rs.Sorted1(t) - rs.Mean68, rs.SD68); };
     for (int t = low; t <= upp; ++t) rs.NormP1(t) = normal_share_below(z68(t), rs.Sorted1(t) > rs.Mean68);
     if (plot == 0) {
@@ -58,9 +59,10 @@ void measure_distances(RunState& rs) {
     }
     // In the diagram of 207/206 a single entry is made, the one behind the selection. All others are those of earlier
     // passes and files, and the measure counts them.
-    if (plot == 1 && upp < MaxSlices) {
-        const double z = quotient(rs.Sorted2(upp + 1) - rs.Mean76, rs.SD76);
-        rs.NormP2(upp + 1) = normal_share_below(z, rs.Sorted2(upp + 1) > rs.Mean76);
+    const int behind = std::max(low, upp + 1);
+    if (plot == 1 && behind <= MaxSlices) {
+        const double z = quotient(rs.Sorted2(behind) - rs.Mean76, rs.SD76);
+        rs.NormP2(behind) = normal_share_below(z, rs.Sorted2(behind) > rs.Mean76);
     }
     rs.ZizzVal1 = squared_distances(rs, rs.NormP1);
     rs.ZizzVal2 = squared_distances(rs, rs.NormP2);

@@ -205,6 +205,24 @@ std::optional<PairMeasures> QuickPairs::measure(RunState& rs, int upp) {
     return out;
 }
 
+namespace {
+
+// As ZiZi_Test, after calc_express_UP. False where the pair needs these.
+bool test_quickly(Context& context, QuickPairs& pairs) {
+    RunState& rs = context.rs;
+    const Running running(rs, "ZiZi_Test");
+    const std::optional<PairMeasures> measures = pairs.measure(rs, rs.SelUpp.val());
+    if (!measures) return false;
+    rs.ZizzVal1 = measures->first;
+    rs.ZizzVal2 = measures->second;
+    context.forms.frm2_UP.lblHgCorrNegative.visible = false;
+    if (pairs.negative_pb204()) context.forms.frm2_Time.lblHgCorrNegative.visible = true;
+    weigh_measures(context);
+    return true;
+}
+
+}  // namespace
+
 void ziz_Manager_UP(Context& context) {
     RunState& rs = context.rs;
     const Running running(rs, "ziz_Manager_UP");
@@ -236,18 +254,10 @@ void ziz_Manager_UP(Context& context) {
         for (rs.ZizzDUpp = -steps; rs.ZizzDUpp <= steps; ++rs.ZizzDUpp) {
             limits.set(low, upp_of(rs.ZizzDUpp));
             // The last pair of each lower limit leaves its tables, and with them all that the pairs before left.
-            std::optional<PairMeasures> measures;
-            if (quick && rs.ZizzDUpp < steps) measures = quick->measure(rs, rs.SelUpp.val());
-            if (measures) {
-                rs.ZizzVal1 = measures->first;
-                rs.ZizzVal2 = measures->second;
-                form.lblHgCorrNegative.visible = false;
-                if (quick->negative_pb204()) context.forms.frm2_Time.lblHgCorrNegative.visible = true;
-            } else {
+            if (!quick || rs.ZizzDUpp == steps || !test_quickly(context, *quick)) {
                 calc_express_UP(context);
-                measure_selection(rs);
+                ZiZi_Test(context);
             }
-            weigh_measures(context);
             if (!quick && rs.ZizzDLow == -steps && rs.ZizzDUpp == -steps) {
                 quick = QuickPairs::of(rs, low, upp_of(steps), upp_of(-steps) - low_of(steps) + 1, hg_corrected);
                 if (quick) quick->begin(low);

@@ -26,6 +26,11 @@ public:
     std::string clip;
     DateTime clock{2009, 1, 7, 14, 3, 22};
     std::size_t disk_room = static_cast<std::size_t>(-1);
+    std::vector<bool> wait_cursors;               // shown, then gone
+    std::vector<std::pair<int, int>> progresses;  // done of all
+
+    void wait_cursor(bool shown) override { wait_cursors.push_back(shown); }
+    void progress(int done, int all) override { progresses.emplace_back(done, all); }
 
     void warn(const std::string& text, const std::string& title) override;
     bool ask(const std::string& text, const std::string& title) override;

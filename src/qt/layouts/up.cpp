@@ -227,6 +227,7 @@ void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
     lay_out_strip(window, f);
     lay_out_sequence(window, f);
     static_cast<LabelView*>(window.of(f.lblXY))->setAlignment(Qt::AlignCenter);
+    static_cast<LabelView*>(window.of(f.lblBestLow))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     wrapping(window, f.lblStatus).setAlignment(Qt::AlignLeft | Qt::AlignBottom);
 
