@@ -119,10 +119,26 @@ def with_standards(lines):
     return lines
 
 
+def cut_in_a_row():
+    """Ends within the third standard; what stands before differs from the kit's, to be seen if it were taken."""
+    lines = changed(URANIUM_LEAD)[: FIRST_ROW + 2]
+    return lines[:-1] + [lines[-1][: len(lines[-1]) // 2]]
+
+
+def with_number_of_standards(count):
+    lines = changed({76: ("setNumSTD", count)})
+    names = [f'"standard {k}","s{k}",0,0,0,0.1,1,0.05,0.06,600' for k in range(1, count + 1)]
+    errors = ["0,0,0,0,0,0,0,0"] * count
+    return lines[: FIRST_ROW - 1] + names + errors + lines[FIRST_ROW - 1 + 2 * STANDARDS:]
+
+
 FILES = {
     "untouched.def": changed(UNTOUCHED),
     "uranium-lead-all-changed.def": with_standards(changed(URANIUM_LEAD)),
     "flex-all-changed.def": changed(FLEX),
+    "cut-in-a-row.def": cut_in_a_row(),
+    "thirty.def": with_number_of_standards(30),
+    "thirty-one.def": with_number_of_standards(31),
 }
 
 
