@@ -87,7 +87,8 @@ const std::set<std::string> side_windows{"frm_SetIS", "frm_Period", "frm_InputFo
 bool opens_side_window(const Control& control) {
     if (control.name == "mnuSettings") return control.index == 1 || control.index == 2;
     if (control.name == "hlp1") return control.index == 1 || control.index == 10;
-    for (const char* name : {"cmdModiSet", "cmdSeq", "cmdPaste", "cmdShow"})
+    if (control.name == "mnuDefault") return control.index == 2;
+    for (const char* name : {"cmdModiSet", "cmdSeq", "cmdPaste", "cmdPaste1", "cmdShow"})
         if (control.name == name) return true;
     return false;
 }
@@ -242,6 +243,8 @@ void lay_out_kit(const fs::path& work) {
     fs::remove_all(work);
     fs::create_directories(work);
     fs::copy(fs::path(KOLVAR_SOURCE_DIR) / "start-kit", work / "start-kit", fs::copy_options::recursive);
+    // Help shows it, as it lies beside the program.
+    fs::copy_file(fs::path(KOLVAR_SOURCE_DIR) / "help/kol-read-me.riz", work / "start-kit/kol-read-me.riz");
     // The whole path: the walk and its replay have different current folders.
     for (const char* path : {"start_path", "start_path_KolvAGE"})
         std::ofstream(work / "start-kit" / path) << '"' << (work / "start-kit").string() << "\"\r\n";
@@ -281,8 +284,9 @@ std::vector<std::string> data_of(int path) {
 }
 
 // In each window beside the steps every control that a user can change or press. Help shows one face at a time.
-void expect_all_acted_on(Program& program, std::map<std::string, int>& visits, Touched& touched) {
-    for (const std::string& window : side_windows) {
+void expect_all_acted_on(Program& program, std::map<std::string, int>& visits, Touched& touched, int path) {
+    const std::set<std::string> of_every_path{"frm_InputForm", "frmPaste", "frmHelp1"};
+    for (const std::string& window : path == 0 ? side_windows : of_every_path) {
         EXPECT_GT(visits[window], 0) << window;
         for (const Control* control : program.forms().find(window)->controls) {
             Dice dice(1);
@@ -321,7 +325,7 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
     // Two slices are too few for the statistics of the ratios; on the other path no click leads to a fault.
     for (const auto& box : os.boxes) EXPECT_TRUE(path != 0 || box.kind != "fault") << box.text;
     if (aside) {
-        expect_all_acted_on(program, visits, touched);
+        expect_all_acted_on(program, visits, touched, path);
     } else {
         EXPECT_GT(visits[path == 0 ? "frm2_Time" : "frm2_UP"], 0);
     }
@@ -355,7 +359,8 @@ INSTANTIATE_TEST_SUITE_P(Roads, RandomWalk,
                                            Road{"solution", 9, 3}, Road{"solution", 10, 3},
                                            Road{"optData", 11, 0, true}, Road{"optData", 12, 0, true},
                                            Road{"optData", 13, 0, true}, Road{"optCreatSTM", 14, 0, true},
-                                           Road{"optCreatBLK", 15, 0, true}),
+                                           Road{"optCreatBLK", 15, 0, true}, Road{"uranium_lead", 16, 1, true},
+                                           Road{"uranium_lead", 17, 1, true}, Road{"solution", 18, 3, true}),
                          [](const auto& walk) { return walk.param.mode + std::to_string(walk.param.seed); });
 
 }  // namespace
