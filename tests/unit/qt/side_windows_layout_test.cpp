@@ -42,6 +42,16 @@ TEST_F(SideWindows, EveryButtonStandsWholeWithinItsWindow) {
     }
 }
 
+// 960 x 540 are left of a screen of 1920 x 1080 pixels at twice the size; a title bar takes some 30 of them.
+TEST_F(SideWindows, WindowsThatDoNotScrollFitAScreenAtTwiceTheSize) {
+    for (Form* form : std::initializer_list<Form*>{&forms.frm_Period, &forms.frm_InputForm, &forms.frmPaste}) {
+        show(*form);
+        QTest::qWait(1);
+        EXPECT_LE(window(*form).minimumSizeHint().width(), 960) << form->name;
+        EXPECT_LE(window(*form).minimumSizeHint().height(), 510) << form->name;
+    }
+}
+
 TEST_F(SideWindows, EnterAndEscCloseTheHintOnPasting) {
     show(forms.frmPaste);
     catch_events(forms.frmPaste, "cmdClose", EventKind::click);
