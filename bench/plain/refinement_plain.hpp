@@ -50,7 +50,11 @@ inline void measure(RunState& rs) {
     }
     if (rs.setBzzMethod.val() != 0) return;
     selection_sort(rs, rs.Rat68, rs.Sorted1);
-    selection_sort(rs, plot == 1 ? rs.Rat76 : rs.Rat75, rs.Sorted2);
+    if (plot == 0 || plot == 1) {
+        selection_sort(rs, plot == 1 ? rs.Rat76 : rs.Rat75, rs.Sorted2);
+    } else {
+        for (int k = low; k <= upp; ++k) rs.Sorted2(k) = 1000000000;  // the first sort took every value
+    }
     std::vector<double> z(static_cast<std::size_t>(MaxSlices) + 2);
     int t = low;
     for (; t <= upp; ++t) {
@@ -64,7 +68,8 @@ inline void measure(RunState& rs) {
             const double p = normal_probability(quotient(rs.Sorted2(t) - rs.Mean76, rs.SD76));
             rs.NormP2(t) = rs.Sorted2(t) > rs.Mean76 ? 1 - p : p;
         }
-    } else {
+    }
+    if (plot == 0) {
         for (t = low; t <= upp; ++t) {
             double& z_t = z[static_cast<std::size_t>(t)];
             if (rs.ColU235 != 0) z_t = quotient(rs.Sorted2(t) - rs.Mean75, rs.SD75);

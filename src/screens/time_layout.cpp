@@ -3,6 +3,7 @@
 
 #include "screens/plots.hpp"
 #include "screens/selection.hpp"
+#include "screens/time_pieces.hpp"
 #include "screens/time_window.hpp"
 
 namespace kolvar {
@@ -11,21 +12,12 @@ namespace {
 
 constexpr int margin = 60;
 constexpr int plot_top = 760;         // below the two lines about file and intervals
-constexpr int between_plots = 640;    // room for the numbers of the limits and the head of the lower plot
 constexpr int scale_labels = 900;     // left of the plots
 constexpr int right_of_plots = 1935;  // bars and the strip at the right
-constexpr int bar_width = 255;
 constexpr int button_height = 405;
-constexpr int label_height = 240;
 constexpr int panel_height = 1200;  // of the signal ratios
 constexpr int panel_height_edit = 2680;
 constexpr int below_plot = 240;
-
-void place(Control& control, int left, int top, int width, int height) {
-    control.place(left, top);
-    control.width = width;
-    control.height = height;
-}
 
 int analytes_width(const RunState& rs) { return rs.nIso > 17 ? (rs.nIso > 34 ? 3600 : 2460) : 1350; }
 
@@ -55,24 +47,13 @@ void size_plots(Context& context) {
 void place_scale_labels(Frm2Time& form) {
     const int left = form.pict1.left - scale_labels;
     const int width = scale_labels - 75;
-    const int upper_end = form.pict1.top + form.pict1.height / 10 - label_height / 2;
-    place(form.lblMaxCps, left, upper_end, width, label_height);
-    place(form.lblMaxCps2, left, upper_end + label_height, width, label_height);
+    place_upper_scale(form, left, width);
     const int lower_end = form.pict2.top + form.pict2.height / 10 - label_height / 2;
     place(form.lblMaxIIS, left, lower_end, width, label_height);
     form.lblMaxIIS2.width = width;
     form.lblMaxIIS2.height = label_height;
-    place(form.lblXNew, left, upper_end + 2 * label_height, 1500, label_height);
-    place(form.txtYMaxInp, left, upper_end + 3 * label_height, 1200, 330);
     place(form.lblXNew2, left, lower_end + 2 * label_height, 1500, label_height);
     place(form.txtYMaxInp2, left, lower_end + 3 * label_height, 1200, 330);
-    for (Label* decade :
-         {&form.lbl10, &form.lbl100, &form.lbl1000, &form.lbl10k, &form.lbl100k, &form.lbl1m, &form.lbl10m}) {
-        decade->width = width;
-        decade->height = label_height;
-        decade->left = left;
-        decade->placed = true;
-    }
 }
 
 }  // namespace
@@ -84,19 +65,11 @@ void lay_out_time_window(Context& context) {
     size_plots(context);
     place_scale_labels(form);
     place(form.pictAllIso, margin, plot_top - 30, analytes_width(context.rs), h - plot_top - 600);
-    place(form.VScroll1, form.pict1.left + form.pict1.width + 15, form.pict1.top, bar_width, form.pict1.height);
-    place(form.VScroll3, form.pict2.left + form.pict2.width + 15, form.pict2.top, bar_width, form.pict2.height);
+    place_around_plots(form);
     const int strip = right_of_plots - bar_width - 2 * margin;
     place(form.pictRightSide, w - margin - strip, plot_top, strip, h - plot_top - 600);
 
-    for (Label* limit : {&form.lblLow, &form.lblUpp}) {
-        limit->width = 600;
-        limit->height = label_height;
-    }
-    place(form.lblIIS(2), form.pict2.left + form.pict2.width / 4, form.pict2.top - label_height - 15,
-          form.pict2.width / 2, label_height);
     place(form.lblRatios, form.pict2.left, form.pict2.top - label_height - 15, form.pict2.width / 4, label_height);
-    form.pictFormer.height = 75;
     place(form.pictRatios, form.pict2.left, form.pict2.top + form.pict2.height + below_plot, form.pict2.width,
           ratio_panel_in_edit_mode(form) ? panel_height_edit : panel_height);
 

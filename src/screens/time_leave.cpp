@@ -76,10 +76,14 @@ void count_all_data(RunState& rs) {
 }  // namespace
 
 void ShowAverages(Context& context) {
+    const Running running(context.rs, "ShowAverages");
+    preview_selection(context, context.rs.BlankFromData == 1);
+}
+
+void preview_selection(Context& context, bool blank_first) {
     RunState& rs = context.rs;
-    const Running running(rs, "ShowAverages");
     count_all_data(rs);
-    if (rs.BlankFromData == 1) ComputeBlank(rs, context.os);
+    if (blank_first) ComputeBlank(rs, context.os);
     ComputeSelStats(rs, context.os);
     ComputeConcentrations(rs, context.os);
     context.shell.close(context.forms.frm_AverConc);  // an open preview is filled anew

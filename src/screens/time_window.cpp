@@ -99,26 +99,11 @@ void preview_averages(Context& context) {
     ShowAverages(context);
 }
 
-void cmdBack(Context& context) {
-    RunState& rs = context.rs;
-    rs.WindowWasNormal = 1;
-    context.shell.open(context.forms.frm1_Settings);
-    rs.FullMax = rs.FullMax2 = rs.MaxCps = rs.MaxRatio = 0;
-    rs.YMaxEntry = rs.YMaxEntry2 = 0;
-    context.shell.close(context.forms.frm2_Time);
-    rs.CameBack = 1;
-}
-
 void connect_plots(Program& program) {
     Context& context = program.context();
     Frm2Time& form = context.forms.frm2_Time;
-    for (const int plot : {1, 2}) {
-        const std::string picture = "pict" + std::to_string(plot);
-        program.on(form, picture, EventKind::press, [&context, plot](const Event& event) {
-            OnPlotDown(context, context.forms.frm2_Time, plot, event.button, event.shift, event.x, event.y);
-        });
-        program.on(form, picture, EventKind::release,
-                   [&context](const Event&) { OnPlotUp(context, context.forms.frm2_Time); });
+    connect_plot_clicks(program, form);
+    for (const char* picture : {"pict1", "pict2"})
         program.on(form, picture, EventKind::resize, [&context](const Event&) {
             lay_out_time_window(context);
             positions_from_slices(context.rs, context.forms.frm2_Time);
@@ -127,7 +112,6 @@ void connect_plots(Program& program) {
             else
                 draw_all(context);
         });
-    }
     form.VScroll1.changed = [&context] { scroll_upper(context); };
     form.VScroll3.changed = [&context] { scroll_lower(context); };
     form.optLi.changed = [&context] { choose_scale(context, true); };
@@ -141,6 +125,27 @@ void connect_plots(Program& program) {
 }
 
 }  // namespace
+
+void connect_plot_clicks(Program& program, TimeScreen& form) {
+    Context& context = program.context();
+    for (const int plot : {1, 2}) {
+        const std::string picture = "pict" + std::to_string(plot);
+        program.on(form, picture, EventKind::press, [&context, &form, plot](const Event& event) {
+            OnPlotDown(context, form, plot, event.button, event.shift, event.x, event.y);
+        });
+        program.on(form, picture, EventKind::release, [&context, &form](const Event&) { OnPlotUp(context, form); });
+    }
+}
+
+void leave_for_files(Context& context, TimeScreen& form) {
+    RunState& rs = context.rs;
+    rs.WindowWasNormal = 1;
+    context.shell.open(context.forms.frm1_Settings);
+    rs.FullMax = rs.FullMax2 = rs.MaxCps = rs.MaxRatio = 0;
+    rs.YMaxEntry = rs.YMaxEntry2 = 0;
+    context.shell.close(form);
+    rs.CameBack = 1;
+}
 
 void open_scale_entry(TimeScreen& form, const Label& shown, Label& head, Entry& entry) {
     head.visible = entry.visible = true;
@@ -188,7 +193,7 @@ void connect_time_window(Program& program) {
         open_set_is(c, "back to time");
     });
     click("cmdNext", LeaveTimeSelection);
-    click("cmdBack", cmdBack);
+    click("cmdBack", [](Context& c) { leave_for_files(c, c.forms.frm2_Time); });
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
     program.on(form, "chkIs", EventKind::click,
                [&context](const Event& event) { click_analyte(context, event.index); });

@@ -38,8 +38,15 @@ bool take_scale_entry(Context& context, TimeScreen& form, Label& shown, Label& h
 // Both zoom bars back to full scale.
 void reset_zoom(Frm2Time& form);
 
-// Blank, statistics and concentrations of the present selection, without rejection, shown in frm_AverConc.
+// The buttons of the mouse over both plots.
+void connect_plot_clicks(Program& program, TimeScreen& form);
+// Back to the files; the marks stay.
+void leave_for_files(Context& context, TimeScreen& form);
+
+// Statistics and concentrations of the present selection, without rejection, shown in frm_AverConc. ShowAverages takes
+// the blank anew where it comes from the data.
 void ShowAverages(Context& context);
+void preview_selection(Context& context, bool blank_first);
 
 // cmdNext: guards, blank, the question about a noisy blank, and the way on.
 void LeaveTimeSelection(Context& context);

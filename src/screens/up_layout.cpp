@@ -3,6 +3,7 @@
 
 #include "screens/plots.hpp"
 #include "screens/selection.hpp"
+#include "screens/time_pieces.hpp"
 #include "screens/up_window.hpp"
 
 namespace kolvar {
@@ -14,9 +15,7 @@ constexpr int head = 1020;           // lines about file and intervals above the
 constexpr int signals_width = 3150;  // analytes, mean cps, margins
 constexpr int signals_top = 1320;
 constexpr int scale_labels = 750;
-constexpr int bar_width = 255;
 constexpr int strip_width = 2550;     // scales, copies, the way
-constexpr int between_plots = 640;    // numbers of the limits, head of the ratio plot
 constexpr int results_height = 3900;  // of all that stands below the plots
 constexpr int ratios_height = 3700;   // the panel of the ratios alone
 constexpr int right_margin = 60;
@@ -25,13 +24,6 @@ constexpr int ratios_width = 7600;
 constexpr int ages_width = 2930;
 constexpr int refinement_width = 2950;
 constexpr int status_height = 900;
-constexpr int label_height = 240;
-
-void place(Control& control, int left, int top, int width, int height) {
-    control.place(left, top);
-    control.width = width;
-    control.height = height;
-}
 
 // A plot that was given its size keeps it.
 void place_plot(Picture& plot, int left, int top, int width, int height) {
@@ -39,28 +31,6 @@ void place_plot(Picture& plot, int left, int top, int width, int height) {
     if (plot.sized_by_hand) return;
     plot.width = width;
     plot.height = height;
-}
-
-void place_scale_labels(Frm2UP& form) {
-    const int left = form.pict1.left - scale_labels;
-    const int width = scale_labels - 60;
-    const int end = form.pict1.top + form.pict1.height / 10 - label_height / 2;
-    place(form.lblMaxCps, left, end, width, label_height);
-    place(form.lblMaxCps2, left, end + label_height, width, label_height);
-    place(form.lblXNew, left, end + 2 * label_height, 1500, label_height);
-    place(form.txtYMaxInp, left, end + 3 * label_height, 1200, 330);
-    for (Label* decade :
-         {&form.lbl10, &form.lbl100, &form.lbl1000, &form.lbl10k, &form.lbl100k, &form.lbl1m, &form.lbl10m}) {
-        decade->width = width;
-        decade->height = label_height;
-        decade->left = left;
-        decade->placed = true;
-    }
-    for (Label* limit : {&form.lblLow, &form.lblUpp, &form.lblBestLow, &form.lblBestUpp}) {
-        limit->width = 600;
-        limit->height = label_height;
-    }
-    form.lblBeam_St.height = label_height;
 }
 
 }  // namespace
@@ -73,12 +43,13 @@ void lay_out_up_window(Context& context) {
     const int height = std::max((results_top - head - 2 * between_plots) / 2, 300);
     place_plot(form.pict1, left, head, width, height);
     place_plot(form.pict2, left, head + height + between_plots, form.pict1.width, height);
-    place_scale_labels(form);
-    place(form.VScroll1, left + form.pict1.width + 15, form.pict1.top, bar_width, form.pict1.height);
-    place(form.VScroll3, left + form.pict1.width + 15, form.pict2.top, bar_width, form.pict2.height);
-    place(form.lblIIS(2), left + form.pict2.width / 4, form.pict2.top - label_height - 15, form.pict2.width / 2,
-          label_height);
-    form.pictFormer.height = 75;
+    place_upper_scale(form, left - scale_labels, scale_labels - 60);
+    place_around_plots(form);
+    form.lblBeam_St.height = label_height;
+    for (Label* limit : {&form.lblBestLow, &form.lblBestUpp}) {
+        limit->width = form.lblLow.width;
+        limit->height = label_height;
+    }
     place(form.picUP_elems, margin, signals_top, signals_width, results_top - signals_top - margin);
     place(form.pictRightSide, form.width - right_margin - strip_width, head, strip_width, results_top - head - margin);
     // Below: ratios, ages over outliers, refinement over the choice of the diagram, the scatter plot.

@@ -14,8 +14,6 @@
 #include "screens/settings_window.hpp"
 #include "screens/time_window.hpp"
 #include "screens/uranium_lead_files.hpp"
-#include "trace/concentrations.hpp"
-#include "trace/statistics.hpp"
 #include "upb/export.hpp"
 #include "upb/outliers.hpp"
 #include "upb/ratio_fields.hpp"
@@ -110,37 +108,10 @@ void enter_upper_limit(Context& context) {
     if (take_scale_entry(context, form, form.lblMaxCps, form.lblXNew, form.txtYMaxInp, rs.YMaxEntry)) draw_UP(context);
 }
 
-void show_averages(Context& context) {
-    RunState& rs = context.rs;
-    if (rs.SelN.val() == 0) return;
-    for (int i = 1; i <= rs.nIso; ++i) rs.nData(i) = rs.SelN.val();
-    ComputeBlank(rs, context.os);
-    ComputeSelStats(rs, context.os);
-    ComputeConcentrations(rs, context.os);
-    context.shell.close(context.forms.frm_AverConc);
-    context.shell.open(context.forms.frm_AverConc);
-}
-
-void cmdBack(Context& context) {
-    RunState& rs = context.rs;
-    rs.WindowWasNormal = 1;
-    context.shell.open(context.forms.frm1_Settings);
-    rs.FullMax = rs.FullMax2 = rs.MaxCps = rs.MaxRatio = 0;
-    rs.YMaxEntry = rs.YMaxEntry2 = 0;
-    context.shell.close(context.forms.frm2_UP);
-    rs.CameBack = 1;
-}
-
 void connect_plots(Program& program) {
     Context& context = program.context();
     Frm2UP& form = context.forms.frm2_UP;
-    for (const int plot : {1, 2}) {
-        const std::string picture = "pict" + std::to_string(plot);
-        program.on(form, picture, EventKind::press, [&context, &form, plot](const Event& event) {
-            OnPlotDown(context, form, plot, event.button, event.shift, event.x, event.y);
-        });
-        program.on(form, picture, EventKind::release, [&context, &form](const Event&) { OnPlotUp(context, form); });
-    }
+    connect_plot_clicks(program, form);
     for (const char* picture : {"pict1", "pict2", "pict3"})
         program.on(form, picture, EventKind::resize, [&context, &form](const Event&) {
             lay_out_up_window(context);
@@ -205,7 +176,7 @@ void connect_up_window(Program& program) {
     });
     click("cmdCopySel", copy_selected_slices);
     click("cmdNext", LeaveTimeSelection);
-    click("cmdBack", cmdBack);
+    click("cmdBack", [](Context& c) { leave_for_files(c, c.forms.frm2_UP); });
     click("cmdNewFile", choose_next_file);
     click("cmdSett", open_defaults_window);
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
@@ -213,7 +184,9 @@ void connect_up_window(Program& program) {
          {"cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd", "cmdOpenSeq", "cmdShowTab", "cmdPlot", "cmdInterpolation"})
         click(later, [](Context& c) { say_not_yet(c.os); });
     for (const char* place : {"", "pictRightSide"})
-        program.on(form, place, EventKind::dblclick, [&context](const Event&) { show_averages(context); });
+        program.on(form, place, EventKind::dblclick, [&context](const Event&) {
+            if (context.rs.SelN.val() != 0) preview_selection(context, true);
+        });
     program.on(form, "", EventKind::resize, [&context](const Event&) { resize_up_window(context); });
 }
 

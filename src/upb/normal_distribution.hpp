@@ -6,7 +6,7 @@
 namespace kolvar {
 
 // Share of a normal distribution below the value that stands z standard deviations from its mean; `above`: the value
-// lies above the mean. Abramowitz and Stegun (1964), formula 26.2.16, error below 1E-5.
+// lies above the mean. Abramowitz and Stegun (1964), formula 26.2.16, good to about 1E-5.
 inline double normal_share_below(double z, bool above) {
     const double u = 1 / (1 + 0.33267 * std::fabs(z));
     const double density = std::exp(-z * z / 2) / std::sqrt(6.283186);

@@ -61,13 +61,21 @@ void draw_XY(Context& context) {
         across = {rs.Min75.val(), rs.Max75.val()};
         up = {rs.Min68.val(), rs.Max68.val()};
     } else {
+        if (rs.Max68.val() == 0 || rs.Min68.val() == 0) return;  // 238/206 has no end
         across = {quotient(1, rs.Max68.val()), quotient(1, rs.Min68.val())};
         up = {rs.Min76.val(), rs.Max76.val()};
     }
     if (!across.has_length() || !up.has_length()) return;  // a constant ratio has no place on the plot
     const double width = form.pict3.width;
     const double height = form.pict3.height;
+    // A slice that was selected since the last calculation has no ratio yet.
+    const auto calculated = [&](int t) {
+        for (int k = t; k < t + rs.PlotPool; ++k)
+            if (rs.Rat68(k) == 0) return false;
+        return true;
+    };
     for (int t = rs.SelLow.val(); t <= rs.SelUpp.val() - (rs.PlotPool - 1); t += rs.PlotPool) {
+        if (!wetherill && !calculated(t)) continue;
         const double x_value = pooled(rs, t, [&](int k) { return wetherill ? rs.Rat75(k) : quotient(1, rs.Rat68(k)); });
         const double y_value = pooled(rs, t, [&](int k) { return wetherill ? rs.Rat68(k) : rs.Rat76(k); });
         const double x = 0.1 * width + across.place(width, x_value);

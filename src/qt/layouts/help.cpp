@@ -39,9 +39,12 @@ void lay_out_cut_text(FormWindow& window, const FrmHelp1& f) {
             grid->addWidget(window.of(f.lblCutNumber(line)), line, 0);
         }
         wrapping(window, f.lblCutText(line));
-        grid->addWidget(window.of(f.lblCutText(line)), line, numbered ? 1 : 0, 1, numbered ? 1 : 2);
+        // The notes stand off from the lines with numbers.
+        grid->addWidget(window.of(f.lblCutText(line)), numbered ? line : line + 1, numbered ? 1 : 0, 1,
+                        numbered ? 1 : 2);
     }
-    grid->setRowStretch(f.lblCutText.last() + 1, 1);
+    grid->setRowMinimumHeight(f.lblCutNumber.last() + 1, 4);
+    grid->setRowStretch(f.lblCutText.last() + 2, 1);
 }
 
 }  // namespace

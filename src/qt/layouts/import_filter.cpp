@@ -1,10 +1,26 @@
 // The three import profiles side by side, and below them the data file as its profile reads it.
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
 #include "qt/layouts/layouts.hpp"
 #include "qt/layouts/pieces.hpp"
 
 namespace kolvar {
 
 namespace {
+
+// Asks for less height than its contents want where the screen is low, so that the buttons below it stay in view.
+class PreviewHolder : public QWidget {
+public:
+    using QWidget::QWidget;
+    [[nodiscard]] QSize sizeHint() const override {
+        constexpr int all_else = 440;  // the texts, the boxes, the buttons and the title bar
+        const int room = QGuiApplication::primaryScreen()->availableSize().height() - all_else;
+        const QSize wanted = QWidget::sizeHint();
+        return {wanted.width(), std::min(wanted.height(), std::max(room, minimumSizeHint().height()))};
+    }
+};
 
 struct Profile {
     const Label &name, &delimiter;
@@ -65,8 +81,12 @@ void lay_out_import_filter(FormWindow& window, const FrmInputForm& f) {
     auto* preview = new QVBoxLayout(window.of(f.framePreview));
     value_field(window, f.lblFile);
     preview->addLayout(row_of(window, {&f.lblFile, &f.cmdDetect}, 0));
-    window.of(f.FlexGrid1)->setMinimumHeight(180);
-    preview->addWidget(window.of(f.FlexGrid1), 1);
+    window.of(f.FlexGrid1)->setMinimumHeight(90);
+    auto* holder = new PreviewHolder(window.of(f.framePreview));
+    auto* held = new QVBoxLayout(holder);
+    held->setContentsMargins(0, 0, 0, 0);
+    held->addWidget(window.of(f.FlexGrid1));
+    preview->addWidget(holder, 1);
     whole->addWidget(window.of(f.framePreview), 1);
 
     whole->addLayout(button_row(window, {}, {&f.cmdSave, &f.cmdCancel}));

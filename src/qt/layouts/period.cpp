@@ -80,7 +80,7 @@ void lay_out_period(FormWindow& window, const FrmPeriod& f) {
     auto* system = new QGridLayout;
     system->setSpacing(2);
     const QFontMetrics metrics(window.font());
-    const int side = 2 * metrics.height() + 10;
+    const int side = 2 * metrics.height() + 6;
     for (int element = f.lblEle.first(); element <= f.lblEle.last(); ++element) {
         auto* const cell = static_cast<LabelView*>(window.of(f.lblEle(element)));
         cell->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);

@@ -91,7 +91,9 @@ void lay_out_folder(FormWindow& window, const FrmChoseDir& f) {
 
 void lay_out_batch(FormWindow& window, const FrmBatchIS& f) {
     QVBoxLayout* const whole = whole_of(window);
+    whole->addStretch(1);
     whole->addLayout(button_row(window, {}, {&f.cmdClose}));
+    window.body()->setMinimumSize(360, 120);  // room for its title
     window.set_default_buttons({&f.cmdClose});
     window.set_escape_buttons({&f.cmdClose});
 }

@@ -9,6 +9,15 @@ namespace kolvar {
 
 namespace {
 
+constexpr int gap = 6;  // between things side by side
+
+// A row within a grid; the grid has two distances, and hands none on.
+QHBoxLayout* line_of(FormWindow& window, std::initializer_list<const Control*> controls) {
+    auto* line = row_of(window, controls);
+    line->setSpacing(gap);
+    return line;
+}
+
 void lay_out_files(FormWindow& window, const FrmSetIS& f) {
     auto* grid = grid_in(window, f.frameFiles);
     grid->addWidget(window.of(f.lblAbbrSTD), 0, 0, 1, 2);
@@ -29,7 +38,7 @@ void lay_out_measurement(FormWindow& window, const FrmSetIS& f) {
     auto* grid = grid_in(window, f.frameDwell);
     grid->addWidget(window.of(f.optDWE(0)), 0, 0);
     narrow(window, {&f.txtDWEtime}, 70);
-    grid->addLayout(row_of(window, {&f.txtDWEtime, &f.lblDWEtime}), 0, 1, 1, 2);
+    grid->addLayout(line_of(window, {&f.txtDWEtime, &f.lblDWEtime}), 0, 1, 1, 2);
     grid->addWidget(window.of(f.optDWE(1)), 1, 0, 1, 3);
     grid->addWidget(window.of(f.txtDwePath), 2, 0, 1, 2);
     grid->addWidget(window.of(f.cmdBrowDwe), 2, 2);
@@ -41,6 +50,7 @@ void lay_out_standards(FormWindow& window, const FrmSetIS& f) {
     auto* grid = grid_in(window, f.frameStandards);
     grid->addLayout(row_of(window, {&f.opt1IS, &f.opt2IS, &f.opt3IS}), 0, 0, 1, 4);
     auto* assignment = column_of(window, {&f.optPeriod(0), &f.optPeriod(1)});
+    assignment->setSpacing(4);
     grid->addLayout(assignment, 1, 0, 1, 4);
     const Control* const cells[4][3] = {{&f.lblHeadIso, &f.lblHeadConc, &f.lblHeadErr},
                                         {&f.comboIso, &f.txtISppm1, &f.txtISerr1},
@@ -87,9 +97,11 @@ void lay_out_standards(FormWindow& window, const FrmSetIS& f) {
 QGridLayout* lay_out_pairs(FormWindow& window, FrmSetIS& f) {
     auto* upon = new QGridLayout;
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(6);
+    grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(4);
-    constexpr int padding = 9;
+    constexpr int padding = 6;
+    constexpr int arrow_and_margins = 34;
+    const int list_width = window.fontMetrics().horizontalAdvance(QLatin1String("Yb172")) + arrow_and_margins;
     auto* const frame = static_cast<QGroupBox*>(window.of(f.Frame6));
     frame->setTitle(shown(f.Frame6.text));  // its margins make room for the title
     grid->setContentsMargins(frame->contentsMargins() + padding);
@@ -106,7 +118,7 @@ QGridLayout* lay_out_pairs(FormWindow& window, FrmSetIS& f) {
         grid->addWidget(caption(window, "/"), pair, 3, Qt::AlignCenter);
         grid->addWidget(window.of(below), pair, 4);
         grid->addWidget(window.of(f.chkBLK2(pair)), pair, 5);
-        for (ListBox* list : {&above, &below}) window.of(*list)->setMinimumWidth(64);
+        for (ListBox* list : {&above, &below}) window.of(*list)->setMinimumWidth(list_width);
         for (CheckBox* box : {&f.chkBLK1(pair), &f.chkBLK2(pair)}) window.of(*box)->setToolTip(uncorrected);
     }
     grid->setColumnStretch(1, 1);
@@ -138,7 +150,7 @@ void lay_out_tests(FormWindow& window, const FrmSetIS& f) {
                                                                      &f.optGrubbs, &f.optShowStDev})
         grid->addWidget(window.of(*test), row++, 0, 1, 2);
     narrow(window, {&f.txtSD}, 44);
-    grid->addLayout(row_of(window, {&f.optStDev, &f.txtSD, &f.lblSD}), row, 0, 1, 2);
+    grid->addLayout(line_of(window, {&f.optStDev, &f.txtSD, &f.lblSD}), row, 0, 1, 2);
     grid->setColumnStretch(1, 1);
 }
 
@@ -155,6 +167,32 @@ void lay_out_results(FormWindow& window, const FrmSetIS& f) {
     grid->setColumnStretch(1, 1);
 }
 
+// Down the columns, and through a pair of analytes before the next one.
+void order_tabs(FormWindow& window, FrmSetIS& f) {
+    const Control* former = &f.txtAbbrSTD;
+    const auto then = [&](std::initializer_list<const Control*> next) {
+        for (const Control* control : next) {
+            QWidget::setTabOrder(window.of(*former), window.of(*control));
+            former = control;
+        }
+    };
+    then({&f.txtSTCpath, &f.cmdBrowSTC, &f.txtSTMpath, &f.cmdBrowSTM});
+    then({&f.optDWE(0), &f.txtDWEtime, &f.optDWE(1), &f.txtDwePath, &f.cmdBrowDwe});
+    then({&f.opt1IS, &f.opt2IS, &f.opt3IS, &f.optPeriod(0), &f.optPeriod(1)});
+    then({&f.comboIso, &f.txtISppm1, &f.txtISerr1, &f.comboIso2, &f.txtISppm2, &f.txtISerr2});
+    then({&f.comboIso3, &f.txtISppm3, &f.txtISerr3, &f.txtMass2, &f.txtMass3, &f.cmdShow});
+    then({&f.optLin(0), &f.optLin(1), &f.chkHorizLines, &f.chkFormerSel});
+    for (const OptionButton& plot : f.optResultPlot) then({&plot});
+    for (int pair = 1; pair <= 6; ++pair)
+        then({&f.chkRatio(pair), &f.comboRatio(2 * pair - 2), &f.chkBLK1(pair), &f.comboRatio(2 * pair - 1),
+              &f.chkBLK2(pair)});
+    for (auto* pair : {&f.optMean, &f.optOneLine, &f.optLinesTables, &f.optCPSinData, &f.optBLK_IS})
+        then({&(*pair)(0), &(*pair)(1)});
+    then({&f.chkTestBlank, &f.optTable(0), &f.optTable(1), &f.optTable(2), &f.optTable(3)});
+    then({&f.optShowMiMa, &f.optMiMa, &f.optShowGrubbs, &f.optGrubbs, &f.optShowStDev, &f.optStDev, &f.txtSD});
+    then({&f.txtComments, &f.cmdApply, &f.cmdSaveAs, &f.cmdCancel});
+}
+
 }  // namespace
 
 void lay_out_set_is(FormWindow& window, FrmSetIS& f) {
@@ -168,7 +206,7 @@ void lay_out_set_is(FormWindow& window, FrmSetIS& f) {
     auto* inner = new QWidget;
     auto* columns = new QHBoxLayout(inner);
     columns->setContentsMargins(6, 6, 6, 4);
-    columns->setSpacing(8);
+    columns->setSpacing(gap);
     auto* measured = column_of(window, {&f.frameFiles});
     measured->addWidget(window.of(f.frameDwell));
     measured->addWidget(window.of(f.frameStandards));
@@ -186,6 +224,7 @@ void lay_out_set_is(FormWindow& window, FrmSetIS& f) {
     auto* buttons = button_row(window, {}, {&f.cmdApply, &f.cmdSaveAs, &f.cmdCancel});
     buttons->setContentsMargins(8, 0, 8, 0);
     whole->addLayout(buttons);
+    order_tabs(window, f);
     window.set_default_buttons({&f.cmdApply});
     window.set_escape_buttons({&f.cmdCancel});
     window.add_shortcut(f.cmdApply, "Alt+A");

@@ -62,7 +62,7 @@ struct Case {
         rs.SelNGood = length;
         if (any(0, 7) == 0) rs.RejFlag(std::max(1, rs.SelLow.val() - 1)) = 1;  // left by a former selection
         rs.setErr = any(0, 3), rs.setErr_times = 2;
-        rs.setBzzMethod = any(0, 1), rs.setBzzPlot = any(0, 1);
+        rs.setBzzMethod = any(0, 1), rs.setBzzPlot = any(0, 19) == 0 ? 2 : any(0, 1);
         rs.ZizzSteps = any(0, 9) == 0 ? 200 : 0;
         Frm2UP& form = forms.frm2_UP;
         form.comboBzz.set_items({"%", "data"});

@@ -48,6 +48,16 @@ TEST_F(ScatterPlot, TeraWasserburgDiagramTakesTheReciprocals) {
     EXPECT_EQ(form.lblRizsa(13).text, "X: 238/206");
 }
 
+TEST_F(ScatterPlot, ASliceWithoutARatioHasNoPoint) {
+    rs.setConcordia = 1;
+    rs.Rat68(6) = 0;
+    EXPECT_EQ(draw(), (Drawn{"clear", "line 0 860.0 900.0 940.0 900.0", "line 0 900.0 860.0 900.0 940.0",  //
+                             "line 0 193.3 500.0 273.3 500.0", "line 0 233.3 460.0 233.3 540.0",           //
+                             "line 0 60.0 100.0 140.0 100.0", "line 0 100.0 60.0 100.0 140.0"}));
+    rs.Max68 = 0;  // of no slice at all
+    EXPECT_EQ(draw(), (Drawn{"clear"}));
+}
+
 TEST_F(ScatterPlot, PooledPointsAreMeans) {
     rs.PlotPool = 2;
     // 207/235 1.5 and 4, 206/238 .15 and .4
