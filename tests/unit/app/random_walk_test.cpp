@@ -122,7 +122,7 @@ bool event_of(const Control& control, Dice& dice, Event& event) {
             if (control.locked) return false;
             // On the steps these complain when they lose the focus, and a walk has none.
             const bool beside = side_windows.contains(control.form.name);
-            for (const char* complaining : {"txtSD", "txtMass2", "txtMass3"})
+            for (const char* complaining : {"txtSD", "txtMass2", "txtMass3", "txtStd", "txtStdEr"})
                 if (control.name == complaining && !beside) return false;
             if (control.name.starts_with("txtMass")) {
                 event.kind = EventKind::type;
@@ -131,6 +131,7 @@ bool event_of(const Control& control, Dice& dice, Event& event) {
             }
             std::vector<std::string> texts{"20", "3", "0", "abc", "153319", "2.5", ""};
             if (control.form.name == "frm_InputForm") texts = {"1", "2", "3", "4", "7", "0.5", "two"};
+            if (control.name == "txtZizzRange") texts = {"0", "1", "2.5", "3", "few"};  // a wide band takes its time
             // In an entry of several lines Enter begins a new one.
             event.kind = !control.multiline && dice.one_in(3) ? EventKind::enter : EventKind::type;
             event.text = event.kind == EventKind::type ? dice.one_of(texts) : "";

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QScrollArea>
 
 #include "desktop_fixture.hpp"
@@ -162,6 +163,25 @@ TEST_F(DefaultsLayout, TheTabulatorGoesFromAValueToItsError) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), &widget<QWidget>(*next)) << next->address();
     }
+}
+
+TEST_F(DefaultsLayout, AFigureOfAStandardIsStoredWhenTheKeysOfApplyLeaveItsField) {
+    FrmSetUP& form = forms.frm_SetUP;
+    open(form, 1);
+    program.state().setNumSTD = 1;
+    form.comboStd.set_items({"glass"});
+    form.comboStd.set_value_quietly(0);
+    for (Entry& entry : form.txtStd) entry.text = "1";
+    for (Entry& entry : form.txtStdEr) entry.text = "1";
+    desktop.sync();
+    auto& field = widget<QLineEdit>(form.txtStd(4));
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, "0.25");
+    QTest::keyClick(&field, Qt::Key_A, Qt::AltModifier);
+    QTest::qWait(150);
+    EXPECT_FALSE(form.shown);
+    EXPECT_EQ(program.state().Std_68(1), Value(0.25));
 }
 
 TEST_F(DefaultsLayout, AnAnalyteThatIsNotMeasuredIsGrey) {
