@@ -8,7 +8,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -118,6 +120,77 @@ TEST(QtPlatform, APictureOnTheClipboardIsNoText) {
     picture.fill(Qt::red);
     QApplication::clipboard()->setImage(picture);
     EXPECT_EQ(QtPlatform().clipboard(), "");
+}
+
+// What a long calculation inside a click shows: the window goes on standing there, painted, and hears nothing.
+struct Window : QWidget {
+    int bar_painted = 0, keys = 0;
+    Window() {
+        resize(800, 600);
+        show();
+        activateWindow();
+    }
+    QProgressBar* bar() const { return findChild<QProgressBar*>(); }
+    void watch_bar() { bar()->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++bar_painted;
+        return false;
+    }
+    void keyPressEvent(QKeyEvent*) override { ++keys; }
+};
+
+TEST(QtPlatform, ProgressAppearsCountsAndGoes) {
+    Window window;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QtPlatform platform;
+    EXPECT_EQ(window.bar(), nullptr);
+    platform.progress(1, 61);
+    ASSERT_NE(window.bar(), nullptr);
+    EXPECT_TRUE(window.bar()->isVisible());
+    EXPECT_TRUE(window.rect().contains(window.bar()->geometry()));
+    EXPECT_EQ(window.bar()->maximum(), 61);
+    EXPECT_EQ(window.bar()->value(), 1);
+    window.watch_bar();
+    QCoreApplication::postEvent(&window, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier));
+    platform.progress(30, 61);
+    EXPECT_EQ(window.bar()->value(), 30);
+    EXPECT_GT(window.bar_painted, 0) << "painted at once";
+    EXPECT_EQ(window.keys, 0) << "no other event is let in";
+    EXPECT_EQ(window.findChildren<QProgressBar*>().size(), 1);
+    platform.progress(61, 61);
+    EXPECT_EQ(window.bar(), nullptr);
+    platform.progress(1, 1);  // also where there is none
+    EXPECT_EQ(window.bar(), nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.keys, 1);
+}
+
+TEST(QtPlatform, ProgressGoesWithItsWindow) {
+    QtPlatform platform;
+    {
+        Window window;
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        platform.progress(1, 3);
+        ASSERT_NE(window.bar(), nullptr);
+    }
+    platform.progress(2, 3);  // without a window nothing is shown
+    platform.progress(3, 3);
+    Window next;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&next));
+    platform.progress(1, 3);
+    EXPECT_NE(next.bar(), nullptr);
+    platform.progress(1, 1);
+}
+
+TEST(QtPlatform, WaitCursorStandsAsLongAsTheWork) {
+    QtPlatform platform;
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    {
+        const WaitCursor waiting(platform);
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 // A settings file is proposed in its own folder, wherever the dialog would start without it.
