@@ -25,7 +25,10 @@ void expect_message(Session& session, Words& words) {
     if (words.take("title")) title = words.text("the title of the message");
     words.finish();
     const Box* oldest = nullptr;
-    for (Box& box : session.os.boxes) {
+    std::vector<Box>& boxes = session.os.boxes;
+    while (session.boxes_told < boxes.size() && boxes[session.boxes_told].expected) ++session.boxes_told;
+    for (std::size_t k = session.boxes_told; k < boxes.size(); ++k) {
+        Box& box = boxes[k];
         if (box.expected) continue;
         const bool same = part ? box.text.find(text) != std::string::npos : box.text == text;
         if (same && (!title || box.title == *title)) {

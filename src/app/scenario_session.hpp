@@ -19,6 +19,7 @@ struct Session {
     std::unique_ptr<Program> program;  // none before `start`
     std::unique_ptr<Desktop> desktop;  // goes before the program
     bool end_told = false;             // the scenario has expected the end
+    std::size_t boxes_told = 0;        // so many of the first boxes have been expected
 
     Session(std::string folder, std::ostream& to_out, std::ostream& to_err)
         : app_folder(std::move(folder)), out(to_out), err(to_err) {}
