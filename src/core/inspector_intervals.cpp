@@ -28,6 +28,7 @@ std::span<const FieldEntry> interval_fields() {
         KOLVAR_SCALAR(ClickButton),
         KOLVAR_SCALAR(ClickShift),
         KOLVAR_SCALAR(BestLow),
+        KOLVAR_SCALAR(TrialLimits),
         KOLVAR_SCALAR(BestUpp),
         KOLVAR_SCALAR(ZizzMin68),
         KOLVAR_SCALAR(ZizzMin75),

@@ -216,8 +216,8 @@ void show_choice(ListBox& list, const RunState& rs, const std::string& name) {
     colour_choice(list);
 }
 
-// An empty list takes away only a name that it could have shown: those of other data stay.
-void take_choice(const ListBox& list, const RunState& rs, Value& name) {
+// An empty list takes away only a name that it could have shown: ratios of other data stay.
+void take_ratio(const ListBox& list, const RunState& rs, Value& name) {
     if (!list.text.empty() || measured(rs, name.text())) name = list.text;
 }
 
@@ -249,8 +249,8 @@ void take_defaults(FrmSetUP& form, RunState& rs) {
 void take_defaults(FrmSetFLEX& form, RunState& rs) {
     take_common(form, rs);
     rs.set235_Calc = "";  // U235 is measured on this path
-    for (const ListBox& list : form.comboPref) take_choice(list, rs, rs.FlexIso(list.index));
-    for (const ListBox& list : form.comboRatio) take_choice(list, rs, rs.ratioName(list.index));
+    for (const ListBox& list : form.comboPref) rs.FlexIso(list.index) = list.text;
+    for (const ListBox& list : form.comboRatio) take_ratio(list, rs, rs.ratioName(list.index));
     for (int pair = 1; pair <= MaxShow; ++pair) rs.setRatioShow(pair) = form.chkRatio(pair).value;
 }
 

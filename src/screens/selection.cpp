@@ -1,5 +1,6 @@
 #include "screens/selection.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -43,7 +44,7 @@ bool shows_text(const Label& label) { return label.visible && !label.text.empty(
 
 // The user overrides a refinement that was not accepted, or one that found nothing: the limits that the search started
 // from become the selection, which the click then changes.
-void take_over_stale_proposal(RunState& rs, Frm2UP& form) {
+void take_over_stale_proposal(RunState& rs, const TimeScreen& screen, Frm2UP& form) {
     if (rs.AcceptBest) return;
     const bool proposed = shows_text(form.lblBestLow) || shows_text(form.lblBestUpp);
     if (!proposed && !(rs.TrialLimits && selection_stands(rs))) return;
@@ -51,6 +52,13 @@ void take_over_stale_proposal(RunState& rs, Frm2UP& form) {
     rs.SelLow = rs.BestLow;
     rs.SelUpp = rs.BestUpp;
     count_selection(rs);
+    // The lines still stand at these limits, unless the window was resized or left since.
+    const double width = screen.pict1.width;
+    const auto stand_at = [&](double& x, const Limit& limit) {
+        if (std::max(1, slice_at(x, width, rs.nSlices)) != limit.val()) x = position_of(limit.val(), width, rs.nSlices);
+    };
+    stand_at(rs.SelLowX, rs.SelLow);
+    stand_at(rs.SelUppX, rs.SelUpp);
     rs.BestLow.clear();
     rs.BestUpp.clear();
     forget_proposal(form);
@@ -215,7 +223,7 @@ void mark_selection(Context& context, TimeScreen& screen) {
         mark_beam_start(context, screen);
         return;
     }
-    take_over_stale_proposal(rs, context.forms.frm2_UP);
+    take_over_stale_proposal(rs, screen, context.forms.frm2_UP);
     // A dropped click leaves everything as it is: no redraw, and ClickShift stands.
     if (rs.AcceptBest && !accept_proposal(rs, context.forms.frm2_UP)) return;
     if (!rs.AcceptBest && rs.ClickShift == 0 && !mark_signal(rs, screen)) return;

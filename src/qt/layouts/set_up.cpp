@@ -184,13 +184,12 @@ QVBoxLayout* lay_out_results(FormWindow& window, DefaultsForm& f) {
     lay_out_line(window, f.frameAver, {&f.optAverage(0), &f.optAverage(1)});
     lay_out_line(window, f.Frame15, {&f.optMean(0), &f.optMean(1)});
     auto* tzero = tight_grid_in(window, f.Frame9);
-    tzero->addLayout(row_of(window, {&f.optTzero(0), &f.optTzero(1)}), 0, 0);
-    tzero->addWidget(window.of(f.optTzero(2)), 1, 0);
+    for (int k = 0; k <= 2; ++k) tzero->addWidget(window.of(f.optTzero(k)), k, 0);
     narrow(window, {&f.txtDelay}, 44);
     auto* delay = row_of(window, {&f.txtDelay, &f.lblDelay});
     delay->setContentsMargins(20, 0, 0, 0);
-    tzero->addLayout(delay, 2, 0);
-    tzero->addWidget(window.of(f.chkPbAver), 3, 0);
+    tzero->addLayout(delay, 3, 0);
+    tzero->addWidget(window.of(f.chkPbAver), 4, 0);
 
     auto* errors = tight_grid_in(window, f.frameErr);
     errors->addLayout(row_of(window, {&f.comboErr, &f.lblErr}), 0, 0);

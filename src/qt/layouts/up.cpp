@@ -167,9 +167,13 @@ void lay_out_refinement(FormWindow& window, const Frm2UP& f) {
     grid->addWidget(window.of(f.lblImprove), 3, 2);
     const std::pair<const Label*, const Label*> figures[] = {
         {&f.lblRMS68, &f.lblRMS75}, {&f.lblZizzMin1, &f.lblZizzMin2}, {&f.lblBest68, &f.lblBest75}};
+    const char* const limits[] = {"of the marked limits", "smallest of all limits tried", "of the proposed limits"};
     for (int k = 0; k < 3; ++k) {
         grid->addWidget(window.of(*figures[k].first), 4, k);
         grid->addWidget(window.of(*figures[k].second), 5, k);
+        const QString tip = QString::fromLatin1(limits[k]);
+        window.of(*figures[k].first)->setToolTip(QStringLiteral("206/238, ") + tip);
+        window.of(*figures[k].second)->setToolTip(QStringLiteral("second ratio, ") + tip);
     }
     grid->addWidget(window.of(f.lblExplain), 6, 0, 1, 3);
     grid->setRowStretch(7, 1);

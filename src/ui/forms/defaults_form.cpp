@@ -15,9 +15,9 @@ DefaultsForm::DefaultsForm(const char* named, const char* titled) : Form(named, 
     optManual(0).text = "User controlled";
     optAverage(0).text = "Avearge";
     optMean(0).text = "Arithmetic mean";
-    optTzero(0).text = "start of selection";
-    optTzero(1).text = "start of laser";
-    optTzero(2).text = "a time after the start of laser:";
+    optTzero(0).text = "Tzero = start selection";
+    optTzero(1).text = "Tzero = start laser";
+    optTzero(2).text = "Tzero =                time";
     optErr(0).text = "standard deviation";
     optErr(1).text = "relative st. dev. [%]";
     optErr(2).text = "standard error";

@@ -24,27 +24,28 @@ RISE = {12: (0.06, 0.60), 13: (0.20, 0.70), 14: (0.45, 0.80), 15: (0.75, 0.88), 
 FALL = {45: (0.90, 1.07), 46: (0.70, 1.14), 47: (0.48, 1.22), 48: (0.28, 1.35), 49: (0.12, 1.50), 50: (0.05, 1.70)}
 
 
-def noise(state=[20047]):
-    """About normal, between -3 and 3: the sum of twelve numbers of a small generator."""
-    total = 0
-    for _ in range(12):
-        state[0] = (state[0] * 1103515245 + 12345) % 2147483648
-        total += state[0] / 2147483648
-    return (total - 6) * 0.7
+def noises(state):
+    """About normal, few beyond 2: sums of twelve numbers of a small generator."""
+    while True:
+        total = 0
+        for _ in range(12):
+            state = (state * 1103515245 + 12345) % 2147483648
+            total += state / 2147483648
+        yield (total - 6) * 0.7
 
 
 def table(columns=tuple(COLUMNS)):
-    noise.__defaults__[0][0] = 20047
+    noise = noises(20047)
     cells = {name: [] for name in COLUMNS}
     for t in range(1, SLICES + 1):
         share, lead = (1, 1) if PLATEAU[0] <= t <= PLATEAU[1] else RISE.get(t) or FALL.get(t) or (0, 1)
         for name, (blank, signal, scatter) in COLUMNS.items():
-            cps = blank * (1 + 0.1 * noise())
+            cps = blank * (1 + 0.1 * next(noise))
             if share and not name.startswith(("Pb204", "Hg")):
                 # Lead moves against uranium, and Pb207 a little on its own.
                 factor = lead if name.startswith("Pb") else 1
                 factor *= lead ** 0.2 if name == "Pb207" else 1
-                cps += signal * share * factor * (1 + scatter * noise())
+                cps += signal * share * factor * (1 + scatter * next(noise))
             cells[name].append(round(cps))
     return {name: cells[name] for name in columns}
 

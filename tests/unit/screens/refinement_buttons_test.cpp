@@ -191,6 +191,28 @@ TEST_F(RefinementButtons, ReopenedWindowShowsTheResultsOfTheLimitsInForce) {
     EXPECT_NE(form().lbl6_8.text, "");
     mark_up(right, 0, 45);
     expect_settled(14, 45);
+    EXPECT_DOUBLE_EQ(rs().SelLowX, form().pict1.width * 14.0 / 60);
+}
+
+// A resize stands the lines at the limits in force, which are those of the last pair.
+TEST_F(RefinementButtons, ResizeUnderAProposalDoesNotMoveTheLineThatIsPutBack) {
+    open();
+    search();
+    resize(form(), 20000, 12000);
+    EXPECT_DOUBLE_EQ(rs().SelLowX, form().pict1.width * 17.0 / 60);
+    mark_up(right, 0, 45);
+    expect_settled(14, 45);
+    EXPECT_DOUBLE_EQ(rs().SelLowX, form().pict1.width * 14.0 / 60);
+}
+
+TEST_F(RefinementButtons, LineThatIsPutBackStandsWhereItWasClicked) {
+    open();
+    mark_up(left, 0, 14.3);
+    const double clicked = rs().SelLowX;
+    search();
+    mark_up(right, 0, 45);
+    expect_settled(14, 45);
+    EXPECT_DOUBLE_EQ(rs().SelLowX, clicked);
 }
 
 TEST_F(RefinementButtons, BoxTakesTheProposalAtOnceWithItsResults) {
