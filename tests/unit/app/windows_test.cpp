@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <filesystem>
 #include <map>
@@ -74,6 +75,7 @@ Played play(const test::TempFolder& base, const std::string& scenario,
 std::string shown_text(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text().toStdString();
     if (const auto* entry = qobject_cast<const QLineEdit*>(&widget)) return entry->text().toStdString();
+    if (const auto* lines = qobject_cast<const QPlainTextEdit*>(&widget)) return lines->toPlainText().toStdString();
     return {};
 }
 
@@ -93,10 +95,11 @@ void compare(const Control& control, const QWidget& widget) {
     }
 }
 
-TEST(Windows, ShowWhatTheProgramHoldsAfterEveryLine) {
+// Plays a scenario and compares after each of its lines; the names of the windows that came up.
+std::set<std::string> compare_while_playing(const std::string& scenario) {
     const test::TempFolder base;
     std::set<std::string> seen;
-    const Played played = play(base, walk.string(), [&](Program& program, const Desktop& desktop) {
+    const Played played = play(base, scenario, [&](Program& program, const Desktop& desktop) {
         if (program.ended()) return;
         for (const Form* form : program.forms().all()) {
             const QWidget* const window = desktop.window(*form);
@@ -109,8 +112,20 @@ TEST(Windows, ShowWhatTheProgramHoldsAfterEveryLine) {
         }
     });
     EXPECT_EQ(played.status, 0) << played.reported;
+    return seen;
+}
+
+TEST(Windows, ShowWhatTheProgramHoldsAfterEveryLine) {
+    const std::set<std::string> seen = compare_while_playing(walk.string());
     for (const char* name : {"frm1_Settings", "frm2_Time", "frm3_Matrix", "frm4_Output", "frm5_Preview"})
         EXPECT_TRUE(seen.contains(name)) << name;
+}
+
+TEST(Windows, OfTheDefaultsShowWhatTheProgramHoldsAfterEveryLine) {
+    const fs::path folder = source_folder / "tests/scenarios/defaults";
+    for (const char* scenario : {"standards.scn", "minerals.scn", "results.scn"})
+        EXPECT_TRUE(compare_while_playing((folder / scenario).string()).contains("frm_SetUP")) << scenario;
+    EXPECT_TRUE(compare_while_playing((folder / "flex.scn").string()).contains("frm_Set_FLEX"));
 }
 
 // The journal holds what a user did. A cell that was put, with the ratio panel that needs it, and a full disk are none
