@@ -10,16 +10,13 @@ off the two windows. The program has no part in it.
 import sys
 from pathlib import Path
 
+from golden_records import changed_lines, text, write_or_check
+
 ROOT = Path(__file__).resolve().parent.parent
 KIT = ROOT / "start-kit" / "KolvAge-default-b01.def"
 FOLDER = ROOT / "tests" / "data" / "defaults_windows"
 STANDARDS = 6                      # in the kit: a row for each from line 78 on, then a row of errors for each
 FIRST_ROW = 78
-
-
-def text(words):
-    return '"' + words.replace('"', "'") + '"'
-
 
 # Without U235 there is no Wetherill diagram: the window shows the other one, and it is taken.
 UNTOUCHED = {58: ("setConcordia", 1)}
@@ -100,14 +97,7 @@ FLEX = {
 
 
 def changed(changes):
-    lines = KIT.read_bytes().decode().split("\r\n")
-    assert len(lines) == 99 and lines[-1] == ""
-    for number, (key, value) in changes.items():
-        former, found = lines[number - 1].rsplit(",", 1)
-        assert found == f'"{key}"', f"line {number} is {found}"
-        assert former != str(value), f"line {number} does not change"
-        lines[number - 1] = f'{value},"{key}"'
-    return lines
+    return changed_lines(KIT, 98, changes)
 
 
 def with_standards(lines):
@@ -142,19 +132,5 @@ FILES = {
 }
 
 
-def main():
-    wrong = 0
-    for name, lines in FILES.items():
-        path = FOLDER / name
-        made = "\r\n".join(lines).encode()
-        if "--check" not in sys.argv:
-            FOLDER.mkdir(exist_ok=True)
-            path.write_bytes(made)
-        elif path.read_bytes() != made:
-            print(f"{path} is not what its table says")
-            wrong = 1
-    return wrong
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(write_or_check(FOLDER, FILES))

@@ -10,13 +10,11 @@ off the map of the window. The program has no part in it.
 import sys
 from pathlib import Path
 
+from golden_records import changed_lines, text, write_or_check
+
 ROOT = Path(__file__).resolve().parent.parent
 KIT = ROOT / "start-kit" / "Kolvar-default-h.set"
 FOLDER = ROOT / "tests" / "data" / "settings"
-
-
-def text(words):
-    return '"' + words.replace('"', "'") + '"'
 
 
 # A field of text is saved as text, even when nobody touched it: the dwell time is a number in the kit.
@@ -71,28 +69,5 @@ CHANGED.update({65 + k: (f"ratioName({k})", text(name)) for k, name in enumerate
 FILES = {"untouched.set": UNTOUCHED, "all-changed.set": CHANGED}
 
 
-def made(changes):
-    lines = KIT.read_bytes().decode().split("\r\n")
-    assert len(lines) == 184 and lines[-1] == ""
-    for number, (key, value) in changes.items():
-        former, found = lines[number - 1].rsplit(",", 1)
-        assert found == f'"{key}"', f"line {number} is {found}"
-        assert former != str(value), f"line {number} does not change"
-        lines[number - 1] = f'{value},"{key}"'
-    return "\r\n".join(lines).encode()
-
-
-def main():
-    wrong = 0
-    for name, changes in FILES.items():
-        path = FOLDER / name
-        if "--check" not in sys.argv:
-            path.write_bytes(made(changes))
-        elif path.read_bytes() != made(changes):
-            print(f"{path} is not what its table says")
-            wrong = 1
-    return wrong
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(write_or_check(FOLDER, {name: changed_lines(KIT, 183, changes) for name, changes in FILES.items()}))
