@@ -9,9 +9,9 @@ complain() { echo "$*"; faults=1; }
 
 # What each floor may include, besides itself.
 declare -A below=(
-    [core]="" [ui]="core" [settings]="core ui" [trace]="core ui" [upb]="core ui" [import]="core ui trace"
-    [screens]="core ui settings trace import upb" [qt]="core ui settings trace import upb screens"
-    [app]="core ui settings trace import upb screens qt")
+    [core]="" [ui]="core" [settings]="core ui" [trace]="core ui" [upb]="core ui" [batch]="core ui" [import]="core ui trace"
+    [screens]="core ui settings trace import upb batch" [qt]="core ui settings trace import upb batch screens"
+    [app]="core ui settings trace import upb batch screens qt")
 for floor in "${!below[@]}"; do
     while IFS=: read -r file include; do
         target=$(sed -E 's/.*"([a-z0-9_]+)\/.*/\1/' <<<"$include")
@@ -19,7 +19,7 @@ for floor in "${!below[@]}"; do
         [[ " ${below[$floor]} " == *" $target "* ]] || complain "$file includes upward: $include"
     done < <(grep -rE '^#include "[a-z0-9_]+/' "$source_dir/src/$floor" --include='*.cpp' --include='*.hpp' 2>/dev/null)
 done
-for floor in core ui settings trace upb import screens; do
+for floor in core ui settings trace upb batch import screens; do
     grep -rnE '#include *[<"]Q' "$source_dir/src/$floor" && complain "toolkit in src/$floor"
     library="$build_dir/libkolvar_$floor.a"
     [ -f "$library" ] || { complain "$library is missing"; continue; }

@@ -1,21 +1,13 @@
 #include "app/scenario_session.hpp"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <string_view>
 
 #include "core/inspector.hpp"
 
 namespace kolvar::scenario {
-namespace {
-
-// Windows that later versions bring.
-constexpr std::array<std::string_view, 2> windows_to_come = {"frm_FileList", "frm_drift"};
-
-}  // namespace
 
 Program& Session::running() {
     if (!program) throw Wrong{"the program has not been started"};
@@ -29,8 +21,6 @@ Program& Session::running() {
 Form& Session::window(const std::string& name) {
     Form* const form = running().forms().find(name);
     if (form != nullptr) return *form;
-    if (std::find(windows_to_come.begin(), windows_to_come.end(), name) != windows_to_come.end())
-        throw Wrong{"window " + name + " does not exist in this version"};
     throw Wrong{"unknown window " + name};
 }
 

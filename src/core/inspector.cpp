@@ -64,9 +64,9 @@ using FieldIndex = std::map<std::string_view, const FieldEntry*>;
 
 FieldIndex indexed() {
     FieldIndex out;
-    for (const auto part :
-         {inspection::measurement_fields(), inspection::interval_fields(), inspection::reference_fields(),
-          inspection::settings_fields(), inspection::default_fields(), inspection::result_fields(), inspection::upb_fields()}) {
+    for (const auto part : {inspection::measurement_fields(), inspection::interval_fields(),
+                            inspection::reference_fields(), inspection::settings_fields(), inspection::default_fields(),
+                            inspection::result_fields(), inspection::upb_fields(), inspection::sequence_fields()}) {
         for (const FieldEntry& entry : part) out.emplace(entry.name, &entry);
     }
     // Two tables of the ratio panel that also go by other names.

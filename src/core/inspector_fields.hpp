@@ -67,6 +67,7 @@ std::span<const FieldEntry> settings_fields();
 std::span<const FieldEntry> default_fields();
 std::span<const FieldEntry> result_fields();
 std::span<const FieldEntry> upb_fields();
+std::span<const FieldEntry> sequence_fields();
 
 }  // namespace kolvar::inspection
 

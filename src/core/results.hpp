@@ -15,8 +15,6 @@ struct Results {
     bool KeepData = false;
     bool HgChosen = false;
     bool RejectOn = false;
-    Value SeqMode;  // "" no decision yet, true in a master list, false for individual files
-    int SeqPhase = 0, SeqPos = 0, SeqCount = 0;
     int SelCount = 0;
 
     // Statistics of the selected interval, by isotope: cps and ratios to the internal standard.

@@ -8,12 +8,13 @@
 #include "core/measurement.hpp"
 #include "core/references.hpp"
 #include "core/results.hpp"
+#include "core/sequence.hpp"
 #include "core/settings_keys.hpp"
 #include "core/upb_results.hpp"
 
 namespace kolvar {
 
-struct RunState : Measurement, Intervals, References, SettingsKeys, DefaultKeys, Results, UpbResults {
+struct RunState : Measurement, Intervals, References, SettingsKeys, DefaultKeys, Results, UpbResults, Sequence {
     RunState() = default;
     RunState(const RunState&) = delete;
     RunState& operator=(const RunState&) = delete;

@@ -1,6 +1,4 @@
-// The small windows: gaps in the reference files, too few data, the folder of the start kit, average concentrations.
-#include "core/files.hpp"
-#include "core/records.hpp"
+// The small windows: gaps in the reference files, too few data, average concentrations.
 #include "screens/screens.hpp"
 #include "screens/settings_window.hpp"
 #include "trace/matching.hpp"
@@ -49,22 +47,6 @@ void open_missing_isotopes(Context& context) {
     form.lblBLK.text = shown_list(context.rs.MissBLK);
 }
 
-void open_start_kit_folder(Context& context) {
-    FrmChoseDir& form = context.forms.frm_ChoseDir;
-    form.Dir1.text = native_path(context.rs.WorkPath.empty() ? context.rs.AppPath1 : context.rs.WorkPath);
-    form.lblPath.text = form.Dir1.text;
-}
-
-// The new folder counts from the next start on.
-void save_start_path(Context& context) {
-    const Running running(context.rs, "save_start_path");
-    RecordWriter writer;
-    writer.field(context.forms.frm_ChoseDir.lblPath.text);
-    writer.end_record();
-    replace_file(context.os, join_path(context.rs.AppPath1, "start_path"), writer.bytes());
-    context.shell.close(context.forms.frm_ChoseDir);
-}
-
 }  // namespace
 
 void connect_report_windows(Program& program) {
@@ -73,7 +55,6 @@ void connect_report_windows(Program& program) {
     Shell& shell = program.shell();
     shell.set_hooks(forms.frm_Dwell, {[&context] { open_missing_dwell(context); }, {}});
     shell.set_hooks(forms.frm_MissingIso, {[&context] { open_missing_isotopes(context); }, {}});
-    shell.set_hooks(forms.frm_ChoseDir, {[&context] { open_start_kit_folder(context); }, {}});
     shell.set_hooks(forms.frm_Omit, {[&context] { context.forms.frm_Omit.lblList.text = context.rs.OutText; }, {}});
     shell.set_hooks(forms.frm_AverConc, {[&context] { load_averages(context); }, {}});
 
@@ -93,14 +74,6 @@ void connect_report_windows(Program& program) {
 
     program.on(forms.frm_Batch_IS, "cmdClose", EventKind::click,
                [&context](const Event&) { context.shell.close(context.forms.frm_Batch_IS); });
-
-    program.on(forms.frm_ChoseDir, "Dir1", EventKind::choose, [&context](const Event& event) {
-        context.forms.frm_ChoseDir.Dir1.text = native_path(event.text);
-        context.forms.frm_ChoseDir.lblPath.text = context.forms.frm_ChoseDir.Dir1.text;
-    });
-    program.on(forms.frm_ChoseDir, "cmdSave", EventKind::click, [&context](const Event&) { save_start_path(context); });
-    program.on(forms.frm_ChoseDir, "cmdCancel", EventKind::click,
-               [&context](const Event&) { context.shell.close(context.forms.frm_ChoseDir); });
 }
 
 }  // namespace kolvar

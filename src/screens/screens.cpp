@@ -16,6 +16,10 @@ void connect_screens(Program& program) {
     connect_period_window(program);
     connect_import_filter_window(program);
     connect_paste(program);
+    connect_folder_window(program);
+    connect_file_list(program);
+    connect_sequence(program);
+    connect_drift(program);
     connect_help(program);
 }
 

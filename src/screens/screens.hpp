@@ -21,6 +21,10 @@ void connect_defaults_windows(Program& program);
 void connect_period_window(Program& program);
 void connect_import_filter_window(Program& program);
 void connect_paste(Program& program);
+void connect_folder_window(Program& program);
+void connect_file_list(Program& program);
+void connect_sequence(Program& program);
+void connect_drift(Program& program);
 void connect_help(Program& program);
 
 }  // namespace kolvar

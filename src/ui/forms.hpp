@@ -9,6 +9,8 @@
 #include "ui/forms/frm2_up.hpp"
 #include "ui/forms/frm3_matrix.hpp"
 #include "ui/forms/frm4_output.hpp"
+#include "ui/forms/frm_drift.hpp"
+#include "ui/forms/frm_file_list.hpp"
 #include "ui/forms/frm_help1.hpp"
 #include "ui/forms/frm_input_form.hpp"
 #include "ui/forms/frm_paste.hpp"
@@ -34,6 +36,8 @@ struct Forms {
     FrmChoseDir frm_ChoseDir;
     FrmAverConc frm_AverConc;
     FrmBatchIS frm_Batch_IS;
+    FrmFileList frm_FileList;
+    FrmDrift frm_drift;
     FrmMissingUPb frm_Missing_UPb;
     FrmHgIsot frm_Hg_isot;
     FrmSetIS frm_SetIS;
@@ -48,7 +52,7 @@ struct Forms {
         return {&frm1_Settings,   &frm2_Time,      &frm2_UP,   &frm3_Matrix,  &frm4_Output,  &frm5_Preview,
                 &frm_Dwell,       &frm_MissingIso, &frm_Omit,  &frm_ChoseDir, &frm_AverConc, &frm_Batch_IS,
                 &frm_Missing_UPb, &frm_Hg_isot,    &frm_SetIS, &frm_SetUP,    &frm_Set_FLEX, &frm_Period,
-                &frm_InputForm,   &frmPaste,       &frmHelp1};
+                &frm_InputForm,   &frmPaste,       &frmHelp1,  &frm_FileList, &frm_drift};
     }
     // nullptr when there is no window of this name.
     [[nodiscard]] Form* find(const std::string& name) {

@@ -18,6 +18,8 @@ void lay_out(FormWindow& window, const Form& form, Program& program) {
     if (&form == &forms.frm_ChoseDir) lay_out_folder(window, forms.frm_ChoseDir);
     if (&form == &forms.frm_AverConc) lay_out_averages(window, forms.frm_AverConc);
     if (&form == &forms.frm_Batch_IS) lay_out_batch(window, forms.frm_Batch_IS);
+    if (&form == &forms.frm_FileList) lay_out_file_list(window, forms.frm_FileList);
+    if (&form == &forms.frm_drift) lay_out_drift(window, forms.frm_drift);
     if (&form == &forms.frm_SetIS) lay_out_set_is(window, forms.frm_SetIS);
     if (&form == &forms.frm_SetUP) lay_out_set_up(window, forms.frm_SetUP);
     if (&form == &forms.frm_Set_FLEX) lay_out_set_flex(window, forms.frm_Set_FLEX);

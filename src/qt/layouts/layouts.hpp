@@ -23,6 +23,8 @@ void lay_out_omit(FormWindow& window, const FrmOmit& form);
 void lay_out_folder(FormWindow& window, const FrmChoseDir& form);
 void lay_out_averages(FormWindow& window, const FrmAverConc& form);
 void lay_out_batch(FormWindow& window, const FrmBatchIS& form);
+void lay_out_file_list(FormWindow& window, FrmFileList& form);
+void lay_out_drift(FormWindow& window, FrmDrift& form);
 void lay_out_set_is(FormWindow& window, FrmSetIS& form);
 void lay_out_set_up(FormWindow& window, FrmSetUP& form);
 void lay_out_set_flex(FormWindow& window, FrmSetFLEX& form);
