@@ -96,22 +96,34 @@ void drop_intervals(RunState& rs) {
     rs.BlkUppX = 0;
 }
 
-// Means, medians, deviations and errors of the five ratios.
-void clear_results(RunState& rs) {
+}  // namespace
+
+void clear_ratio_results(RunState& rs) {
     rs.Mean68 = rs.Mean75 = rs.Mean82 = rs.Mean382 = rs.Mean76 = 0;
     rs.Med68 = rs.Med75 = rs.Med82 = rs.Med382 = rs.Med76 = 0;
     rs.SD68 = rs.SD75 = rs.SD82 = rs.SD382 = rs.SD76 = 0;
     rs.Err68 = rs.Err75 = rs.Err82 = rs.Err382 = rs.Err76 = 0;
 }
 
-// Clearing has emptied the names of all columns; only a table that was read to its end has them again.
+// Clearing empties the names of all columns; only a table that is read to its end has them again.
 bool read_to_its_end(const RunState& rs) {
     for (int i = 1; i <= rs.nIso; ++i)
         if (!rs.IsoCanon(i).empty()) return true;
     return false;
 }
 
-}  // namespace
+void load_in_place_of_former(Context& context) {
+    RunState& rs = context.rs;
+    ClearData(rs);
+    load_by_ending(context);
+    // The screen of ratios comes up all the same; it must not show results of a table that could not be read.
+    if ((rs.Method == 1 || rs.Method == 3) && !read_to_its_end(rs)) {
+        rs.RejectOn = false;
+        rs.RejFlag.fill(0);
+        drop_intervals(rs);
+        clear_ratio_results(rs);
+    }
+}
 
 void ClearData(RunState& rs) {
     Running running(rs, "ClearData");
@@ -229,7 +241,7 @@ void MaintainIntervals(Context& context) {
             return;
         }
         drop_intervals(rs);
-        clear_results(rs);
+        clear_ratio_results(rs);
         Frm2UP& form = context.forms.frm2_UP;
         form.pict1.canvas.Clear();
         form.pict2.canvas.Clear();
@@ -247,15 +259,7 @@ bool ChooseDataFile(Context& context, const std::string& folder) {
     rs.AppPath2 = folder_of(rs.SetFilePath);
     rs.DataFilePath = rs.SetFilePath;
     rs.DataFileName = file_name(rs.SetFilePath);
-    ClearData(rs);
-    load_by_ending(context);
-    // The screen of ratios comes up all the same; it must not show results of a table that could not be read.
-    if ((rs.Method == 1 || rs.Method == 3) && !read_to_its_end(rs)) {
-        rs.RejectOn = false;
-        rs.RejFlag.fill(0);
-        drop_intervals(rs);
-        clear_results(rs);
-    }
+    load_in_place_of_former(context);
     return true;
 }
 

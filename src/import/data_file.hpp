@@ -17,6 +17,13 @@ void LoadTXT(Context& context, const std::string& path);
 void LoadXL(Context& context, const std::string& path);
 // The reader by the last three characters of DataFilePath; none for any other ending.
 void load_by_ending(Context& context);
+// The former measurement goes and DataFilePath is read; a table that can't be read to its end leaves neither intervals
+// nor results on the U/Pb and FLEX paths.
+void load_in_place_of_former(Context& context);
+// The data come from a table that was read to its end.
+bool read_to_its_end(const RunState& rs);
+// Means, medians, deviations and errors of the five ratios to 0.
+void clear_ratio_results(RunState& rs);
 
 // IsoElem and IsoCanon of every column.
 void SplitIsoNames(RunState& rs);

@@ -7,6 +7,7 @@
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
 #include "screens/plots.hpp"
+#include "screens/sequence.hpp"
 #include "screens/time_window.hpp"
 #include "trace/statistics.hpp"
 #include "upb/outliers.hpp"
@@ -176,6 +177,11 @@ void enable_what_the_limits_allow(Context& context, TimeScreen& screen) {
         if (rs.Method == 1 || rs.Method == 3) offer_rejection(context.forms.frm2_UP);
         if (rs.Method == 1) screen.cmdCopySel.enabled = true;
         screen.cmdCopyHead.enabled = screen.cmdCopy.enabled = screen.cmdApp.enabled = true;
+        Frm2UP& form = context.forms.frm2_UP;
+        if (in_sequence(rs) && &screen == &form) {
+            form.cmdSaveAnd(0).enabled = form.cmdSaveAnd(1).enabled = can_save_line(rs);
+            form.cmdCopyMas.enabled = true;
+        }
     }
     enable_results(context);
 }
@@ -242,6 +248,13 @@ void forget_proposal(Frm2UP& form) {
     for (Label* label : {&form.lblBestLow, &form.lblBestUpp, &form.lblBest68, &form.lblBest75, &form.lblImprove,
                          &form.lblZizzMin1, &form.lblZizzMin2, &form.lblRMS68, &form.lblRMS75})
         label->text.clear();
+}
+
+void keep_as_former(RunState& rs) {
+    rs.FormerLowX = rs.SelLowX;
+    rs.FormerUppX = rs.SelUppX;
+    rs.FormerLow = rs.SelLow;
+    rs.FormerUpp = rs.SelUpp;
 }
 
 void OnBeamStartLabel(RunState& rs) { rs.WaitBeamStart = true; }

@@ -16,6 +16,9 @@ void OnPlotUp(Context& context, TimeScreen& screen);
 // Applies the stored click (ClickX, ClickButton, ClickShift).
 void mark_selection(Context& context, TimeScreen& screen);
 // A click on the label of the beam start: the next click on the plot sets it.
+// The present selection is shown as the former one from now on.
+void keep_as_former(RunState& rs);
+
 void OnBeamStartLabel(RunState& rs);
 // The plot's width has changed: positions anew from the slices.
 void positions_from_slices(RunState& rs, const TimeScreen& screen);

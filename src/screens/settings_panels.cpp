@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/numbers.hpp"
+#include "screens/sequence.hpp"
 #include "screens/settings_window.hpp"
 
 namespace kolvar {
@@ -55,14 +56,14 @@ void activate_uranium_lead(Context& context) {
     Frm1Settings& form = context.forms.frm1_Settings;
     show_panel(form, form.pict_UT, "Kolv-AGE  -  Start window");
     // The last two are out of sight when the window comes from the panel of the internal standards.
-    show({&form.cmdOK1, &form.cmdChooseUP, &form.cmdPaste1}, true);
+    show({&form.cmdOK1, &form.cmdChooseUP, &form.cmdPaste1, &form.lblUP, &form.lblCaptionUP}, true);
     form.lblUP.text = rs.DataFileName;
     form.lblUPset.text = rs.SettingsName;
     const bool undecided = rs.SeqMode.is_text() || rs.SeqMode.is_unset();
-    const bool in_sequence = !undecided && rs.SeqMode.number() != 0;
+    const bool batch = in_sequence(rs);
     show({&form.cmdIndividual, &form.cmdSequential}, undecided);
-    enable({&form.cmdChooseUP, &form.lblUP}, !undecided && !in_sequence);
-    enable({&form.cmdCreate, &form.cmdOpenMaster}, undecided || in_sequence);
+    enable({&form.cmdChooseUP, &form.lblUP, &form.lblCaptionUP}, !undecided && !batch);
+    enable({&form.cmdCreate, &form.cmdOpenMaster}, undecided || batch);
     if (rs.DataFileName.empty() || !rs.HgChosen) form.cmdOK1.visible = false;
     if (!rs.HgChosen) form.lblUP.text = "  ";
 }

@@ -7,6 +7,8 @@
 #include "import/data_file.hpp"
 #include "screens/defaults_window.hpp"
 #include "screens/screens.hpp"
+#include "screens/selection.hpp"
+#include "screens/sequence.hpp"
 #include "screens/set_is_window.hpp"
 #include "screens/settings_panels.hpp"
 #include "screens/start_paths.hpp"
@@ -162,11 +164,29 @@ void cmdChooseUP(Context& context) {
 void cmdIndividual(Context& context) {
     Frm1Settings& form = context.forms.frm1_Settings;
     context.rs.SeqMode = false;
-    for (Control* control : std::initializer_list<Control*>{&form.cmdCreate, &form.cmdOpenMaster, &form.cmdSequential})
+    for (Control* control : std::initializer_list<Control*>{&form.cmdCreate, &form.cmdOpenMaster, &form.cmdSequential,
+                                                            &form.lblCaptionSeq})
         control->visible = false;
-    for (Control* control : std::initializer_list<Control*>{&form.cmdChooseUP, &form.lblUP, &form.cmdChooseSET,
-                                                            &form.cmdSet_1, &form.lblUPset})
+    for (Control* control : std::initializer_list<Control*>{&form.cmdChooseUP, &form.lblUP, &form.lblCaptionUP,
+                                                            &form.cmdChooseSET, &form.cmdSet_1, &form.lblUPset})
         control->visible = control->enabled = true;
+}
+
+// A batch: its list beside this window, which offers a new master file and one that is there.
+void cmdSequential(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    context.rs.SeqMode = true;
+    form.cmdIndividual.visible = form.cmdSequential.visible = false;
+    open_list_window(context, context.rs.ListMode);
+}
+
+void cmdCreate(Context& context) {
+    Frm1Settings& form = context.forms.frm1_Settings;
+    context.rs.SeqMode = true;
+    for (Control* control :
+         std::initializer_list<Control*>{&form.cmdIndividual, &form.cmdChooseUP, &form.lblUP, &form.lblCaptionUP})
+        control->visible = false;
+    open_list_window(context, 0);
 }
 
 // To the ratios of the file that is loaded; its selection is shown as the former one.
@@ -174,10 +194,7 @@ void cmdOK1(Context& context) {
     RunState& rs = context.rs;
     rs.Method = 1;
     rs.BlankFromData = 1;
-    rs.FormerLowX = rs.SelLowX;
-    rs.FormerUppX = rs.SelUppX;
-    rs.FormerLow = rs.SelLow;
-    rs.FormerUpp = rs.SelUpp;
+    keep_as_former(rs);
     rs.ShowFirst = "elso";
     if (!refused_for_missing_isotopes(context)) context.shell.open(context.forms.frm2_UP);
     context.shell.close(context.forms.frm1_Settings);
@@ -238,8 +255,6 @@ void connect_choices(Program& program) {
 
 }  // namespace
 
-void say_not_yet(Platform& os) { os.warn("This function is not part of this version yet.", "KOLVAR"); }
-
 void connect_settings_window(Program& program) {
     Context& context = program.context();
     Frm1Settings& form = context.forms.frm1_Settings;
@@ -269,8 +284,9 @@ void connect_settings_window(Program& program) {
     click("Command6", Command6);
     click("cmdOK1", cmdOK1);
     click("Command9", Command9);
-    for (const char* later : {"cmdSequential", "cmdCreate", "cmdOpenMaster"})
-        click(later, [](Context& c) { say_not_yet(c.os); });
+    click("cmdSequential", cmdSequential);
+    click("cmdCreate", cmdCreate);
+    click("cmdOpenMaster", cmdOpenMaster);
 
     click("cmdSet_1", [](Context& c) { c.shell.open(c.forms.frm_SetUP); });
     click("cmdModiSet", [](Context& c) { open_set_is(c, "back to start"); });

@@ -9,7 +9,4 @@ namespace kolvar {
 void Selection_Ready(Context& context);
 void back_to_file_choice(Context& context);
 
-// What a control does whose window or calculation this version does not hold.
-void say_not_yet(Platform& os);
-
 }  // namespace kolvar

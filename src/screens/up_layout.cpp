@@ -11,9 +11,15 @@ namespace kolvar {
 namespace {
 
 constexpr int margin = 120;
-constexpr int head = 1020;           // lines about file and intervals above the plots
+constexpr int plain_head = 1020;     // lines about file and intervals above the plots
 constexpr int signals_width = 3150;  // analytes, mean cps, margins
 constexpr int signals_top = 1320;
+constexpr int sequence_left = 3735;
+constexpr int sequence_top = 720;
+constexpr int sequence_height = 1230;
+constexpr int interpolation_height = 690;
+constexpr int sequence_right = 180;       // between the strip of a sequence and the edge of the window
+constexpr int interpolation_left = 7215;  // within the strip
 constexpr int scale_labels = 750;
 constexpr int strip_width = 2550;     // scales, copies, the way
 constexpr int results_height = 3900;  // of all that stands below the plots
@@ -38,6 +44,11 @@ void place_plot(Picture& plot, int left, int top, int width, int height) {
 void lay_out_up_window(Context& context) {
     Frm2UP& form = context.forms.frm2_UP;
     const int results_top = form.height - results_height;
+    place(form.pictSeq, sequence_left, sequence_top, std::max(form.width - sequence_right - sequence_left, 300),
+          sequence_height);
+    place(form.cmdInterpolation, interpolation_left, 30, std::max(form.pictSeq.width - interpolation_left - 60, 300),
+          interpolation_height);
+    const int head = form.pictSeq.visible ? sequence_top + sequence_height + 60 : plain_head;
     const int left = margin + signals_width + scale_labels;
     const int width = std::max(form.width - left - bar_width - strip_width - 2 * margin, 300);
     const int height = std::max((results_top - head - 2 * between_plots) / 2, 300);

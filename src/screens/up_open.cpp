@@ -7,6 +7,7 @@
 #include "import/recognition.hpp"
 #include "screens/plots.hpp"
 #include "screens/selection.hpp"
+#include "screens/sequence.hpp"
 #include "screens/settings_panels.hpp"
 #include "screens/time_window.hpp"
 #include "screens/up_window.hpp"
@@ -49,6 +50,14 @@ void show_diagram(RunState& rs, Frm2UP& form) {
     form.optConcord(wetherill && rs.setConcordia.val() != 1 ? 0 : 1).set_value_quietly(1);
 }
 
+// Which Hg isotope is used, and whether its share can be taken off Pb204.
+void show_mercury(RunState& rs, Frm2UP& form) {
+    if (rs.Method != 1) return;
+    form.lblFLEXiso(7).text = form.chkHgCorr.on() ? "Pb204" : "204";
+    form.lblFLEXiso(8).text = hg_name(rs);
+    form.chkHgCorr.enabled = form.chkCommLead.enabled = rs.HgMass != 0;
+}
+
 void show_signals(RunState& rs, Frm2UP& form) {
     constexpr std::array<const char*, 8> uranium_lead = {"U238",  "U235",  "Th232", "Pb208",
                                                          "Pb207", "Pb206", "Pb204", ""};
@@ -62,11 +71,7 @@ void show_signals(RunState& rs, Frm2UP& form) {
     }
     form.chkHgCorr.visible = form.chkCommLead.visible = rs.Method == 1;
     form.chkHgCorr.set_value_quietly(rs.setHg_corr.val() == 1 ? 1 : 0);
-    if (rs.Method == 1) {
-        form.lblFLEXiso(7).text = form.chkHgCorr.on() ? "Pb204" : "204";
-        form.lblFLEXiso(8).text = hg_name(rs);
-        form.chkHgCorr.enabled = form.chkCommLead.enabled = rs.HgMass != 0;
-    }
+    show_mercury(rs, form);
     form.lbl235C.visible = rs.set235_Calc.val() == 1;
 }
 
@@ -74,6 +79,13 @@ void fill_list(ListBox& list, std::vector<std::string> items, const Value& index
     const int count = static_cast<int>(items.size());
     list.set_items(std::move(items));
     list.set_value_quietly(std::clamp(index.whole(), 0, count - 1));
+}
+
+// A proposal that was not taken went with its data.
+void drop_proposal(RunState& rs, Frm2UP& form) {
+    rs.ZizzRunning = false;
+    form.cmdAccept.visible = false;
+    forget_proposal(form);
 }
 
 void show_refinement(RunState& rs, Frm2UP& form) {
@@ -85,10 +97,7 @@ void show_refinement(RunState& rs, Frm2UP& form) {
         fill_list(form.Combo7, {"Wetherill", "Tera-Wasserburg"}, rs.setBzzPlot);
     fill_list(form.Combo8, {"RMS", "Skewness"}, rs.setBzzMethod);
     form.chkBzzPrompt.set_value_quietly(rs.setBzz_Prompt.val() == 1 ? 1 : 0);
-    // A proposal that was not taken went with the window.
-    rs.ZizzRunning = false;
-    form.cmdAccept.visible = false;
-    forget_proposal(form);
+    drop_proposal(rs, form);
 }
 
 // A window that comes up shows nothing of the file before: what is measured is filled in by the first drawing.
@@ -202,9 +211,10 @@ void open_up_window(Context& context) {
           &form.VScroll3, &form.chk68, &form.chk75, &form.chk82, &form.chkUTh, &form.chk76, &form.lblFusion,
           &form.pict3, &form.lblRizsa(23)},
          true);
-    show({&form.lblHgCorrNegative, &form.lblRatios, &form.cmdNext, &form.pictSeq, &form.lblXNew, &form.txtYMaxInp,
-          &form.lblXNew2, &form.txtYMaxInp2},
+    show({&form.lblHgCorrNegative, &form.lblRatios, &form.cmdNext, &form.lblXNew, &form.txtYMaxInp, &form.lblXNew2,
+          &form.txtYMaxInp2},
          false);
+    hide_sequence(form);
     rs.ScaleFresh = rs.ScaleFresh2 = false;
     form.lblmicsoda.text = shown_name(rs.DataFileName);
     form.lblDefa.text = shown_name(rs.SettingsName);
@@ -223,6 +233,7 @@ void open_up_window(Context& context) {
     show_path(rs, form);
     show_unrecognised(rs, form);
     rs.CurvesShown = 1;
+    show_sequence(context);
     lay_out_up_window(context);
     show_limits(rs, form);
 
@@ -243,6 +254,33 @@ void activate_up_window(Context& context) {
     Frm2UP& form = context.forms.frm2_UP;
     if (rs.PlotOn == 1) form.pict1.canvas.Clear();
     if (rs.Method == 1 || rs.Method == 3) form.title = "Kolv-AGE  -  Selection of time slices and results on screen";
+    // The interpolation that was just accepted leads on to the samples.
+    if (rs.SeqPhase == 3) show_sequence(context);
+}
+
+void renew_up_window(Context& context) {
+    RunState& rs = context.rs;
+    Frm2UP& form = context.forms.frm2_UP;
+    show({&form.lblHgCorrNegative, &form.lblXNew, &form.txtYMaxInp, &form.lblXNew2, &form.txtYMaxInp2}, false);
+    clear_results(rs, form);
+    drop_proposal(rs, form);
+    show_mercury(rs, form);
+    for (int k = 0; k < ratio_count; ++k) {
+        CheckBox& box = form.ratio_row(k).box;
+        box.enabled = ratio_fields()[static_cast<std::size_t>(k)].measured(rs);
+        if (!box.enabled) box.set_value_quietly(0);
+    }
+    const bool wetherill = rs.ColU235 != 0;
+    if (form.optConcord(0).enabled != wetherill) {
+        show_diagram(rs, form);
+        show_refinement(rs, form);
+    }
+    show_kind_of_result(rs, form);
+    show_unrecognised(rs, form);
+    show_limits(rs, form);
+    rs.MaxCps = std::max(1.0, highest_signal_by_role(rs));
+    rs.FullMax = rs.MaxCps;
+    form.VScroll1.set_value_quietly(1);
 }
 
 }  // namespace kolvar

@@ -11,7 +11,6 @@
 #include "screens/plots.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
-#include "screens/settings_window.hpp"
 #include "screens/time_window.hpp"
 #include "screens/uranium_lead_files.hpp"
 #include "upb/export.hpp"
@@ -180,9 +179,6 @@ void connect_up_window(Program& program) {
     click("cmdNewFile", choose_next_file);
     click("cmdSett", open_defaults_window);
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
-    for (const char* later :
-         {"cmdOpenPrev", "cmdOpenNext", "cmdSaveAnd", "cmdOpenSeq", "cmdShowTab", "cmdPlot", "cmdInterpolation"})
-        click(later, [](Context& c) { say_not_yet(c.os); });
     for (const char* place : {"", "pictRightSide"})
         program.on(form, place, EventKind::dblclick, [&context](const Event&) {
             if (context.rs.SelN.val() != 0) preview_selection(context, true);

@@ -4,6 +4,7 @@
 
 #include "import/data_file.hpp"
 #include "screens/screens.hpp"
+#include "screens/sequence.hpp"
 
 namespace kolvar {
 
@@ -80,6 +81,10 @@ void choose_hg(Context& context, std::size_t which, Form& next) {
     rs.HgMass = choice.mass;
     rs.ColHg = choice.column;
     rs.HgChosen = true;
+    if (in_sequence(rs) && &next == &context.forms.frm2_UP) {
+        context.shell.close(form);
+        return show_file_in_work(context);
+    }
     context.shell.open(next);
     context.shell.close(form);
 }
@@ -93,16 +98,22 @@ bool refused_for_missing_isotopes(Context& context) {
     return true;
 }
 
+bool asked_about_mercury(Context& context) {
+    RunState& rs = context.rs;
+    if (hg_columns(rs) <= 1 || rs.Method != 1) return false;
+    rs.HgChosen = false;
+    rs.PlotOn = 0;
+    context.shell.open(context.forms.frm_Hg_isot);
+    return true;
+}
+
 void go_on_with_new_file(Context& context, Form& from) {
     RunState& rs = context.rs;
     if (refused_for_missing_isotopes(context)) return context.shell.close(from);
     context.forms.frm1_Settings.cmdOK1.visible = true;
     rs.PlotOn = 0;
     context.shell.close(from);
-    if (hg_columns(rs) > 1 && rs.Method == 1) {
-        rs.HgChosen = false;
-        return context.shell.open(context.forms.frm_Hg_isot);
-    }
+    if (asked_about_mercury(context)) return;
     rs.HgChosen = true;
     context.shell.open(context.forms.frm2_UP);
 }
@@ -132,6 +143,7 @@ void connect_uranium_lead_reports(Program& program) {
     program.on(forms.frm_Hg_isot, "", EventKind::close, [&context](const Event&) {
         context.shell.open(context.forms.frm1_Settings);
         context.shell.close(context.forms.frm_Hg_isot);
+        context.shell.close(context.forms.frm2_UP);  // in a sequence it waited for the answer
     });
 }
 

@@ -9,6 +9,9 @@ namespace kolvar {
 // True when a column that every ratio needs is missing; frm_Missing_UPb was opened then.
 bool refused_for_missing_isotopes(Context& context);
 
+// True when the data hold several Hg isotopes on the U/Pb path; frm_Hg_isot was opened then.
+bool asked_about_mercury(Context& context);
+
 // After a load: the report of missing isotopes, the question about several Hg isotopes, or frm2_UP on the new data.
 // `from` is the window that the file was chosen in; it closes.
 void go_on_with_new_file(Context& context, Form& from);

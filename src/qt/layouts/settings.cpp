@@ -56,10 +56,10 @@ void lay_out_start_panels(FormWindow& window, const Frm1Settings& f) {
     auto* uranium = new QVBoxLayout(window.of(f.pict_UT));
     uranium->addLayout(row_of(window, {&f.Command6, &f.cmdChooseSET, &f.lblUPset, &f.cmdSet_1}, 2));
     uranium->addSpacing(12);
-    uranium->addLayout(row_of(window, {&f.cmdIndividual, &f.cmdChooseUP, &f.lblUP, &f.cmdPaste1}, 2));
+    uranium->addLayout(row_of(window, {&f.cmdIndividual, &f.lblCaptionUP, &f.cmdChooseUP, &f.lblUP, &f.cmdPaste1}, 3));
     uranium->addSpacing(12);
     uranium->addLayout(row_of(window, {&f.cmdSequential}));
-    uranium->addLayout(row_of(window, {&f.cmdCreate, &f.cmdOpenMaster}));
+    uranium->addLayout(row_of(window, {&f.lblCaptionSeq, &f.cmdCreate, &f.cmdOpenMaster}));
     uranium->addStretch(1);
     uranium->addLayout(button_row(window, {}, {&f.cmdOK1, &f.cmdExitUP}));
 

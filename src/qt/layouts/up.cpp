@@ -209,12 +209,42 @@ void lay_out_strip(FormWindow& window, const Frm2UP& f) {
     whole->addWidget(window.of(f.cmdNext));
 }
 
+// Where the batch stands, and what moves it on. To the right of the first lines the button of the interpolation has its
+// place.
 void lay_out_sequence(FormWindow& window, const Frm2UP& f) {
     auto* whole = new QVBoxLayout(window.of(f.pictSeq));
-    whole->addWidget(window.of(f.lblSeqTitle));
-    whole->addLayout(row_of(window, {&f.lblDir, &f.lblPos, &f.lblStdFiNum, &f.lblSamFiNum}));
-    whole->addLayout(row_of(window, {&f.cmdOpenPrev, &f.cmdOpenNext, &f.cmdSaveAnd(0), &f.cmdSaveAnd(1), &f.cmdCopyMas,
-                                     &f.cmdOpenSeq, &f.cmdShowTab, &f.cmdPlot, &f.cmdInterpolation}));
+    whole->setContentsMargins(4, 2, 4, 2);
+    whole->setSpacing(2);
+    bold(window, f.lblPos);
+    auto* position = row_of(window, {&f.lblSeqTitle, &f.lblPos});
+    position->addStretch(1);
+    whole->addLayout(position);
+    auto* counters = new QHBoxLayout;
+    const std::pair<const char*, const Label*> counts[] = {{"Standard files:", &f.lblStdFiNum},
+                                                           {"Sample files:", &f.lblSamFiNum}};
+    for (const auto& [head, count] : counts) {
+        counters->addWidget(caption(window, head));
+        counters->addWidget(&bold(window, *count));
+        counters->addSpacing(12);
+    }
+    counters->addStretch(1);
+    whole->addLayout(counters);
+    whole->addStretch(1);
+    auto* buttons = row_of(window, {&f.cmdOpenPrev, &f.cmdOpenNext, &f.cmdSaveAnd(0), &f.cmdSaveAnd(1), &f.cmdCopyMas,
+                                    &f.cmdOpenSeq, &f.cmdShowTab, &f.cmdPlot});
+    buttons->setSpacing(4);
+    buttons->addStretch(1);
+    whole->addLayout(buttons);
+}
+
+// At the right end of the head: that a sequence is running, and its master file.
+void lay_out_sequence_head(FormWindow& window, const Frm2UP& f, QWidget& head) {
+    auto* const grid = static_cast<QGridLayout*>(head.layout());
+    constexpr int column = 9;
+    bold(window, f.lblRizsa(3));
+    bold(window, f.lblDir);
+    grid->addWidget(window.of(f.lblRizsa(3)), 0, column);
+    grid->addLayout(row_of(window, {&f.lblRizsa(30), &f.lblDir}, 1), 1, column);
 }
 
 }  // namespace
@@ -230,6 +260,7 @@ void lay_out_up(FormWindow& window, Frm2UP& f, const RunState& rs) {
     lay_out_diagram(window, f);
     lay_out_strip(window, f);
     lay_out_sequence(window, f);
+    lay_out_sequence_head(window, f, *head);
     static_cast<LabelView*>(window.of(f.lblXY))->setAlignment(Qt::AlignCenter);
     static_cast<LabelView*>(window.of(f.lblBestLow))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 

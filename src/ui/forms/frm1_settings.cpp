@@ -18,8 +18,9 @@ Frm1Settings::Frm1Settings() : Form("frm1_Settings", "KOLVAR  -  Step 1: File se
     put_into(frameDwell, {&optDweUni, &txtDwell, &lblDweMS, &optDWEfile, &lblDWE, &cmdLoadDWE, &cmdDWEinfo});
     put_into(frameIntStd, {&lblIntHead, &lblIntIso, &lblIntConc, &lblIntErr, &comboIso, &txtISppm, &txtISerr,
                            &comboIso2, &txtISppm2, &txtISerr2, &comboIso3, &txtISppm3, &txtISerr3});
-    put_into(pict_UT, {&cmdIndividual, &cmdSequential, &cmdCreate, &cmdOpenMaster, &Command6, &cmdChooseSET, &lblUPset,
-                       &cmdSet_1, &cmdChooseUP, &lblUP, &cmdPaste1, &cmdOK1, &cmdExitUP});
+    put_into(pict_UT,
+             {&cmdIndividual, &cmdSequential, &cmdCreate, &cmdOpenMaster, &Command6, &cmdChooseSET, &lblUPset,
+              &cmdSet_1, &lblCaptionUP, &lblCaptionSeq, &cmdChooseUP, &lblUP, &cmdPaste1, &cmdOK1, &cmdExitUP});
     put_into(pict_FLEX, {&lblFLEX, &Command15, &Command9, &cmdExitFLEX});
 
     optData.value = 1;  // the mode that the program starts in

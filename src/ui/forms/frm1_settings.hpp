@@ -100,12 +100,14 @@ struct Frm1Settings : Form {
     Panel pict_UT{*this, "pict_UT"};
     Button cmdIndividual{*this, "cmdIndividual", "Individual processing of data files"};
     Button cmdSequential{*this, "cmdSequential", "Sequential processing of standard-sample-standard file batches"};
+    Label lblCaptionSeq{*this, "lblCaptionSeq", "Batch of data files:"};
     Button cmdCreate{*this, "cmdCreate", "Create a master file"};
     Button cmdOpenMaster{*this, "cmdOpenMaster", "Open a master file"};
     Button Command6{*this, "Command6", "Open personal default file first"};
     Button cmdChooseSET{*this, "cmdChooseSET", "Browse ..."};
     Label lblUPset{*this, "lblUPset"};
     Button cmdSet_1{*this, "cmdSet_1", "Modify defaults"};
+    Label lblCaptionUP{*this, "lblCaptionUP", "Data file:"};
     Button cmdChooseUP{*this, "cmdChooseUP", "Browse and next step"};
     Label lblUP{*this, "lblUP"};
     Button cmdPaste1{*this, "cmdPaste1", "Paste data from clipboard"};

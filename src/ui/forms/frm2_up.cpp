@@ -39,19 +39,19 @@ Frm2UP::Frm2UP() : TimeScreen("frm2_UP", "Kolv-AGE  -  Selection of time slices 
     }
     put_into(FrameBzzz, {&txtZizzRange, &comboBzz, &Combo7, &Combo8, &chkBzzPrompt, &cmdZizeges, &cmdAccept, &lblRMS68,
                          &lblRMS75, &lblZizzMin1, &lblZizzMin2, &lblBest68, &lblBest75, &lblImprove, &lblExplain});
-    put_into(pictSeq,
-             {&lblSeqTitle, &lblDir, &lblPos, &lblStdFiNum, &lblSamFiNum, &cmdOpenPrev, &cmdOpenNext, &cmdSaveAnd(0),
-              &cmdSaveAnd(1), &cmdCopyMas, &cmdOpenSeq, &cmdShowTab, &cmdPlot, &cmdInterpolation});
+    put_into(pictSeq, {&lblSeqTitle, &lblPos, &lblStdFiNum, &lblSamFiNum, &cmdOpenPrev, &cmdOpenNext, &cmdSaveAnd(0),
+                       &cmdSaveAnd(1), &cmdCopyMas, &cmdOpenSeq, &cmdShowTab, &cmdPlot, &cmdInterpolation});
     last_in_tab_order(
         {&cmdCopyHead, &cmdCopy, &cmdApp, &cmdCopySel, &cmdNewFile, &cmdSett, &cmdExit, &cmdBack, &cmdNext});
 
     hide_until_needed();
     for (Label& label : lblRizsa) label.visible = !label.text.empty();
-    for (Control* hidden : std::initializer_list<Control*>{&lblBeam_St, &lbl235C, &cmdAccept, &lblBestLow, &lblBestUpp,
-                                                           &lblExplain, &pictSeq, &lblRizsa(30), &cmdNext})
+    for (Control* hidden :
+         std::initializer_list<Control*>{&lblBeam_St, &lbl235C, &cmdAccept, &lblBestLow, &lblBestUpp, &lblExplain,
+                                         &pictSeq, &lblRizsa(30), &lblDir, &cmdInterpolation, &cmdNext})
         hidden->visible = false;
     for (Control* unusable : std::initializer_list<Control*>{&cmdReject, &cmdCopyHead, &cmdCopy, &cmdApp, &cmdCopySel,
-                                                             &cmdSaveAnd(0), &cmdSaveAnd(1), &cmdCopyMas})
+                                                             &cmdSaveAnd(0), &cmdSaveAnd(1), &cmdCopyMas, &cmdPlot})
         unusable->enabled = false;
 }
 
