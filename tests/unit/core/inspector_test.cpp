@@ -5,6 +5,7 @@
 #include <functional>
 #include <regex>
 #include <set>
+#include <sstream>
 
 #include "core/fault.hpp"
 #include "support/test_support.hpp"
@@ -32,7 +33,8 @@ protected:
 // The names that the headers of the run state declare.
 std::set<std::string> declared_names() {
     std::set<std::string> out;
-    for (const char* part : {"measurement", "intervals", "references", "settings_keys", "default_keys", "results", "upb_results"}) {
+    for (const char* part : {"measurement", "intervals", "references", "settings_keys", "default_keys", "results",
+                             "upb_results", "sequence"}) {
         std::string text = test::bytes_of(std::string(KOLVAR_SOURCE_DIR) + "/src/core/" + part + ".hpp");
         text = std::regex_replace(text, std::regex("//[^\n]*"), "");
         text = text.substr(text.find("struct "));
@@ -108,6 +110,63 @@ TEST_F(Inspector, WhatIsPutIntoAnyFieldIsReadBack) {
         EXPECT_NE(get(name, i, j).number(), 0.0) << name;
         put(name, Value(), i, j);
         EXPECT_EQ(get(name, i, j).number(), 0.0) << name;
+    }
+}
+
+// What the user's documents name, with the highest index of each table: a name that is lost or misspelled here is one
+// that no scenario can ask for any more.
+struct Named {
+    const char* names;  // between blanks
+    int dimensions = 0, last1 = 0, last2 = 0;
+};
+constexpr Named named[] = {
+    {"Method DataFileName DataFilePath nIso nSlices PrevSlices DwellUniform"},
+    {"IsoName IsoElem IsoCanon Dwell", 1, 100},
+    {"Sig Sig2 BLKraw", 2, 100, 6000},
+    {"IsoOmit RejFlag Rat68 Rat75 Rat82 Rat382 Rat76 Sig204Net", 1, 6000},
+    {"ColHg198 ColHg199 ColHg200 ColHg201 ColHg202 ColHg HgMass ColPb204 ColPb206 ColPb207 ColPb208 ColTh232 ColU235 "
+     "ColU238"},
+    {"FlexIso FlexCol", 1, 15},
+    {"setISnum IS1name IS1col IS1conc IS1err IS2name IS2col IS2conc IS2err IS3name IS3col IS3conc IS3err"},
+    {"IsoISidx IsoISconc IsoISerr", 1, 100},
+    {"nSTC STCtitle STCfileName STCfilePath nSTM STMfileName STMfilePath nBLK BLKfileName BLKfilePath nBLKraw nDWE "
+     "DWEtitle DWEfileName DWEfilePath"},
+    {"STCiso STCcc STCerr", 1, 500},
+    {"STMiso STMcps STMsd BLKiso BLKmean BLKsd DWEiso DWEms", 1, 100},
+    {"StdConc StdConcErr StdCps StdCpsErr BlkMean BlkSD", 1, 100},
+    {"MissSTC MissSTM MissBLK MissDWE"},
+    {"ModeData ModeCreateSTM ModeCreateBLK BlankFromData DwellFromFile"},
+    {"SelLow SelUpp SelN SelNGood SelLowX SelUppX BlkLow BlkUpp BlkN BlkLowX BlkUppX FormerLow FormerUpp FormerLowX "
+     "FormerUppX FormerBlkLow FormerBlkUpp BeamStart"},
+    {"SettingsName SettingsPath SetFilePath LineBuf TokenBuf WorkPath AppPath1 AppPath2 Lambda238 Lambda235"},
+    {"GrubbsP10 GrubbsP7_5 GrubbsP5 GrubbsP2_5 GrubbsP1", 1, 100},
+    {"StudentT1 StudentT2 StudentT3 StudentT4 StudentT5 StudentT6", 1, 101},
+    {"SelCount CurvesShown KeepData RefsMatched HgChosen RejProcName RatioScale RejectOn ShowFirst WaitBeamStart "
+     "SeqMode SeqPhase setPasteDat PlotState PlotOn AutoScale1 AutoScale2 setBzzPlot setBzzMethod setFormer_Sel"},
+    {"CurveOn", 1, 50},
+    {"setRatioShow setRatBLK", 1, 6},
+    {"setMineral", 1, 10},
+    {"ratioName", 1, 12},
+    {"PeriodSym PeriodIS", 1, 99},
+    {"Std_Name Std_Abbr Std_U Std_Th Std_Pb Std_68 Std_75 Std_82 Std_76 Std_Age", 1, 30},
+    {"Std_Er", 2, 8, 30},
+    {"setCSVisoLINE setCSVdatLINE setCSVfirstCOL setTXTisoLINE setTXTdatLINE setTXTfirstCOL setXLisoLINE setXLdatLINE "
+     "setXLfirstCOL setXXXXXisoLINE setXXXXXdatLINE setXXXXXfirstCOL setYYYYYisoLINE setYYYYYdatLINE setYYYYYfirstCOL "
+     "setZZZZZisoLINE setZZZZZdatLINE setZZZZZfirstCOL setCPS_IS setIS_Dwell setDWEfile_IS setSTCfile_IS"},
+    {"Mean68 Mean75 Mean82 Mean382 Mean76 Med68 Med75 Med82 Med382 Med76 SD68 SD75 SD82 SD382 SD76 Err68 Err75 Err82 "
+     "Err382 Err76"},
+};
+
+TEST_F(Inspector, EveryNameOfStartUpAndImportIsKnownWithItsLimits) {
+    for (const Named& group : named) {
+        std::istringstream names(group.names);
+        for (std::string name; names >> name;) {
+            const FieldShape shape = field_shape(name);
+            EXPECT_TRUE(shape.known) << name;
+            EXPECT_EQ(shape.dimensions, group.dimensions) << name;
+            EXPECT_EQ(shape.last1, group.last1) << name;
+            EXPECT_EQ(shape.last2, group.last2) << name;
+        }
     }
 }
 
