@@ -16,6 +16,11 @@ FolderView::FolderView(QWidget* parent) : QTreeView(parent), model_(new QFileSys
     setUniformRowHeights(true);
     connect(this, &QTreeView::clicked, this, &FolderView::choose);
     connect(this, &QTreeView::activated, this, &FolderView::choose);
+    // A folder whose files have changed is chosen once more.
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& at) {
+        const QString folder = QDir::toNativeSeparators(model_->filePath(at));
+        if (folder == folder_ && on_choose) on_choose(folder);
+    });
     // The names of a folder come in later, in their order: what was in view is brought back.
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this] { scrollTo(currentIndex()); });
 }

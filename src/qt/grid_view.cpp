@@ -95,14 +95,20 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     const int row = orientation == Qt::Horizontal ? 0 : section + 1;
     const int col = orientation == Qt::Horizontal ? section + 1 : 0;
     if (row >= grid_.rows || col >= grid_.cols) return {};
+    if (role == Qt::ToolTipRole && col == 0 && leaves_out_empty_) return shown(grid_.cell(row, 0).text);
     return cell_data(grid_.cell(row, col), role);
 }
 
 bool GridModel::refresh() {
-    if (rows_ != grid_.rows || cols_ != grid_.cols) {
+    int rows = grid_.rows, cols = grid_.cols;
+    if (leaves_out_empty_) {
+        while (rows > 1 && grid_.cell(rows - 1, 0).text.empty()) --rows;
+        while (cols > 1 && grid_.cell(0, cols - 1).text.empty()) --cols;
+    }
+    if (rows_ != rows || cols_ != cols) {
         beginResetModel();
-        rows_ = grid_.rows;
-        cols_ = grid_.cols;
+        rows_ = rows;
+        cols_ = cols;
         endResetModel();
         return true;
     }
@@ -163,7 +169,10 @@ void GridView::refresh() {
     if (revision_ == grid_.revision && widths_ == grid_.column_widths) return;
     revision_ = grid_.revision;
     model_->refresh();
-    set_widths();
+    if (table_)
+        fit_widths();
+    else
+        set_widths();
     if (grid_.rows > 0 && grid_.cols > 0) {
         const Grid::Cell& cell = grid_.cell(0, 0);
         corner_->setText(shown(cell.text));
@@ -215,8 +224,45 @@ void GridView::set_widths() {
     for (int col = 1; col < std::min(cols_, set - 1); ++col) horizontalHeader()->resizeSection(col - 1, width_of(col));
 }
 
+void GridView::be_a_table() {
+    table_ = true;
+    model_->leave_out_empty();
+    setTabKeyNavigation(false);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (!fitting_ && column < static_cast<int>(drawn_.size())) drawn_[static_cast<std::size_t>(column)] = true;
+    });
+}
+
+// The longest text stands for all of its column: of thousands of cells only one is measured.
+void GridView::fit_widths() {
+    constexpr std::size_t longest_name = 60, longest_text = 40;
+    constexpr int narrowest = 36;
+    const auto room = [this](int column, std::size_t most) {
+        std::size_t longest = 0;
+        const std::string* widest_text = &grid_.cell(0, column).text;
+        for (int row = 0; row <= model_->rowCount(); ++row) {
+            const std::string& text = grid_.cell(row, column).text;
+            if (text.size() <= longest || text.size() > most) continue;
+            longest = text.size();
+            widest_text = &text;
+        }
+        return fontMetrics().horizontalAdvance(shown(*widest_text)) + 14;
+    };
+    fitting_ = true;
+    verticalHeader()->setFixedWidth(std::max(pixels(1800), room(0, longest_name)));
+    drawn_.resize(static_cast<std::size_t>(model_->columnCount()));
+    for (int column = 0; column < model_->columnCount(); ++column)
+        if (!drawn_[static_cast<std::size_t>(column)])
+            horizontalHeader()->resizeSection(column, std::max(narrowest, room(column + 1, longest_text)));
+    fitting_ = false;
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex at = currentIndex();
+    if (table_ && at.isValid() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        if (on_dblclick) on_dblclick(at.row() + 1, at.column() + 1);
+        return;
+    }
     if (event->key() == Qt::Key_Space && at.isValid()) {
         if (on_click) on_click(at.row() + 1, at.column() + 1);
         return;

@@ -20,11 +20,14 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    // Only the rows that have a head, and the columns that have a title, are shown.
+    void leave_out_empty() { leaves_out_empty_ = true; }
     // Takes over what has changed in the grid; true when its size is another one.
     bool refresh();
 
 private:
     const Grid& grid_;
+    bool leaves_out_empty_ = false;
     int rows_ = 0, cols_ = 0;
 };
 
@@ -33,6 +36,10 @@ public:
     GridView(const Grid& grid, QWidget* parent);
 
     std::function<void(int row, int col)> on_click, on_dblclick;  // 0 are the headers
+
+    // For a table of lines that are chosen: each column is as wide as its texts, or as the user has drawn it; rows
+    // without a head and columns without a title are left out; Enter is a double click.
+    void be_a_table();
 
     void refresh();
     [[nodiscard]] QSize sizeHint() const override { return {640, 320}; }
@@ -45,6 +52,7 @@ protected:
 private:
     void place_corner();
     void set_widths();
+    void fit_widths();
     [[nodiscard]] int widest(int first_row, int last_row, int first_col, int last_col, int longest) const;
 
     const Grid& grid_;
@@ -52,6 +60,8 @@ private:
     LabelView* corner_;
     std::uint64_t revision_ = ~std::uint64_t{0};
     std::vector<int> widths_;
+    bool table_ = false, fitting_ = false;
+    std::vector<bool> drawn_;                          // the user has given the column its width
     int cols_ = -1, name_width_ = 0, cell_width_ = 0;  // logical pixels
 };
 
