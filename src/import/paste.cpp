@@ -85,11 +85,15 @@ void read_slices(RunState& rs, std::string_view text) {
 
 }  // namespace
 
-void PasteData(Context& context) {
+bool PasteData(Context& context) {
     RunState& rs = context.rs;
     const Running running(rs, "PasteData");
     rs.LineBuf = with_carriage_returns(context.os.clipboard());
-    if (rs.LineBuf.empty()) return context.os.warn("There are no numbers on the clipboard.");
+    if (rs.LineBuf.empty()) {
+        context.os.warn("There are no numbers on the clipboard.");
+        return false;
+    }
+    bool pasted = false;
     guarded(
         [&] {
             const std::ptrdiff_t columns = count_cells(rs, rs.LineBuf);
@@ -98,8 +102,10 @@ void PasteData(Context& context) {
             if (rs.Method == 0 || rs.Method == 1 || rs.Method == 3) rs.DataFileName = " pasted from clipboard ";
             if (rs.Method == 1 || rs.Method == 3) context.forms.frm1_Settings.lblUP.text = rs.DataFileName;
             AfterImport(context);
+            pasted = true;
         },
         [&](const Fault&) { context.shell.open(context.forms.frmPaste); });
+    return pasted;
 }
 
 }  // namespace kolvar

@@ -23,8 +23,8 @@ void cmdPaste1(Context& context) {
     ClearData(rs);
     form.cmdOK1.visible = false;
     form.lblUP.text = "  ";
-    PasteData(context);
-    if (context.forms.frmPaste.shown || rs.LineBuf.empty() || (rs.Method != 1 && rs.Method != 3)) return;
+    // Whether the report of a table refused before still stands open says nothing about this one.
+    if (!PasteData(context) || (rs.Method != 1 && rs.Method != 3)) return;
     rs.PlotOn = 0;
     rs.BlankFromData = 1;
     form.cmdOK1.visible = true;

@@ -1,6 +1,7 @@
 #include "screens/start_up.hpp"
 
 #include "core/files.hpp"
+#include "core/numbers.hpp"
 #include "core/records.hpp"
 #include "core/stat_tables.hpp"
 #include "import/data_file.hpp"
@@ -32,22 +33,35 @@ void read_start_path(RunState& rs, Platform& os, const std::string& name) {
         });
 }
 
+// While nobody has named the kit's folder its paths are a name behind a lone separator. A file that happens to lie
+// there, in the root of the disk, is none of the kit: each load fails with its own message.
+bool kit_named(const RunState& rs) { return !rs.WorkPath.empty(); }
+
+// The number that a setting begins with. The text of one beyond all bounds counts as none: it does not end the start.
+double number_in(const Value& setting) { return leading_number(setting.text()).number; }
+
+void load_example(Context& context, const std::string& name, void (*load)(Context&, const std::string&)) {
+    RunState& rs = context.rs;
+    rs.DataFileName = name;
+    const std::string example = join_path(rs.WorkPath, name);
+    rs.DataFilePath = kit_named(rs) ? example : std::string();
+    load(context, example);
+    rs.DataFilePath = example;
+}
+
 void start_internal_standard_path(Context& context) {
     RunState& rs = context.rs;
     read_start_path(rs, context.os, "start_path");
 
     rs.SettingsName = default_settings;
     rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
-    // While nobody has named the kit's folder its paths are a name behind a lone separator. A file that happens to lie
-    // there, in the root of the disk, is none of the kit: each load fails with its own message.
-    const bool kit_named = !rs.WorkPath.empty();
-    if (kit_named)
+    if (kit_named(rs))
         ReadSettings(rs, context.os, rs.SettingsPath);
     else
         warn_of_settings_file(context.os, rs.SettingsPath);
 
     // The kit of this path is loaded to its end even if the settings file has chosen another path.
-    for (int i = 1; i <= MaxIso; ++i) rs.Dwell(i) = rs.setIS_Dwell.val() / 1000;
+    for (int i = 1; i <= MaxIso; ++i) rs.Dwell(i) = number_in(rs.setIS_Dwell) / 1000;
 
     rs.DWEfilePath = rs.DWEfileName = reference_path(rs, rs.setDWEfile_IS.text());
     LoadDWE(rs, context.os);
@@ -59,30 +73,19 @@ void start_internal_standard_path(Context& context) {
 
     rs.BLKfileName = "2004-12-19-a.blk";
     rs.BLKfilePath = join_path(rs.WorkPath, rs.BLKfileName);
-    if (kit_named)
+    if (kit_named(rs))
         LoadBLK(rs, context.os);
     else
         warn_of_reference_file(context.os, rs.BLKfilePath);
 
     rs.STMfileName = "nbs-610-2004-12-19-1.stm";
     rs.STMfilePath = join_path(rs.WorkPath, rs.STMfileName);
-    if (kit_named)
+    if (kit_named(rs))
         LoadSTM(rs, context.os);
     else
         warn_of_reference_file(context.os, rs.STMfilePath);
 
-    rs.DataFileName = "example-1.csv";
-    const std::string example = join_path(rs.WorkPath, rs.DataFileName);
-    rs.DataFilePath = kit_named ? example : std::string();
-    LoadCSV(context, example);
-    rs.DataFilePath = example;
-}
-
-void load_example(Context& context, const std::string& name, void (*load)(Context&, const std::string&)) {
-    RunState& rs = context.rs;
-    rs.DataFileName = name;
-    rs.DataFilePath = join_path(rs.WorkPath, name);
-    load(context, rs.DataFilePath);
+    load_example(context, "example-1.csv", LoadCSV);
 }
 
 void start_uranium_lead_path(Context& context, int method) {
@@ -90,14 +93,17 @@ void start_uranium_lead_path(Context& context, int method) {
     read_start_path(rs, context.os, "start_path_KolvAGE");
     rs.SettingsName = "KolvAge-default-b01.def";
     rs.SettingsPath = join_path(rs.WorkPath, rs.SettingsName);
-    ReadDefaults(rs, context.os, rs.SettingsPath);
+    if (kit_named(rs))
+        ReadDefaults(rs, context.os, rs.SettingsPath);
+    else
+        warn_of_reference_file(context.os, rs.SettingsPath);
     if (method == 3) {
         rs.Method = 3;  // whatever the file holds
         return load_example(context, "0-FLEX-UT19-50.xl", LoadXL);
     }
     // The example has neither a line before its heads nor a column before its first isotope; it is left out when the
     // files of the user do.
-    if (rs.setCSVisoLINE.val() == 1 && rs.setCSVdatLINE.val() == 2 && rs.setCSVfirstCOL.val() == 1)
+    if (number_in(rs.setCSVisoLINE) == 1 && number_in(rs.setCSVdatLINE) == 2 && number_in(rs.setCSVfirstCOL) == 1)
         load_example(context, "test-01-no-Hg-235-232.csv", LoadCSV);
 }
 

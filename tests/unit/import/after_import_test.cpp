@@ -278,6 +278,34 @@ TEST_F(AfterLoad, OnTheOtherPathsAFileOfTheSameLengthKeepsIntervalsOnlyWhenTheSe
     }
 }
 
+TEST_F(AfterLoad, OnTheOtherPathsDroppedIntervalsEmptyThePlotsAndTheTwentyResultsAndHideTheRejection) {
+    Frm2UP& form = forms.frm2_UP;
+    for (const int method : {1, 3}) {
+        rs.Method = method;
+        rs.setFormer_Sel = 0;
+        for (double* result : {&rs.Mean68, &rs.Mean75, &rs.Mean82, &rs.Mean382, &rs.Mean76, &rs.Med68, &rs.Med75,
+                               &rs.Med82,  &rs.Med382, &rs.Med76,  &rs.SD68,    &rs.SD75,   &rs.SD82,  &rs.SD382,
+                               &rs.SD76,   &rs.Err68,  &rs.Err75,  &rs.Err82,   &rs.Err382, &rs.Err76})
+            *result = 0.5;
+        rs.Mean85 = rs.SD85 = rs.Err85 = rs.Age68 = rs.Slope68 = 0.5;
+        rs.Max68 = rs.Min76 = 0.5;
+        Control* const controls[] = {&form.cmdReject, &form.chkShowSD, &form.txtSD, &form.lblReject, &form.lblOM};
+        for (Control* control : controls) control->visible = true;
+        for (Picture* plot : {&form.pict1, &form.pict2}) plot->canvas.Line(0, 0, 10, 10);
+        load("a.csv", method == 1 ? three_slices : four_slices);
+        for (const double result : {rs.Mean68, rs.Mean75, rs.Mean82, rs.Mean382, rs.Mean76, rs.Med68, rs.Med75,
+                                    rs.Med82,  rs.Med382, rs.Med76,  rs.SD68,    rs.SD75,   rs.SD82,  rs.SD382,
+                                    rs.SD76,   rs.Err68,  rs.Err75,  rs.Err82,   rs.Err382, rs.Err76})
+            EXPECT_EQ(result, 0);
+        // The others keep their values until they are calculated anew.
+        for (const double result : {rs.Mean85, rs.SD85, rs.Err85, rs.Age68, rs.Slope68}) EXPECT_EQ(result, 0.5);
+        EXPECT_EQ(rs.Max68, Value(0.5));
+        EXPECT_EQ(rs.Min76, Value(0.5));
+        for (const Control* control : controls) EXPECT_FALSE(control->visible) << control->name;
+        for (const Picture* plot : {&form.pict1, &form.pict2}) EXPECT_EQ(plot->canvas.commands().size(), 1U);
+    }
+}
+
 TEST_F(AfterLoad, OnTheOtherPathsAFirstFileHasNoFormerOne) {
     rs.Method = 1;
     rs.setFormer_Sel = 1;

@@ -65,17 +65,22 @@ TEST_F(Choice, ClearedCellsAreOneAndFlagsZero) {
     for (int j = 1; j <= 3; ++j) {
         rs.Sig2(1, j) = 8;
         rs.RejFlag(j) = 2;
-        rs.Rat68(j) = rs.Rat76(j) = rs.Rat382(j) = 0.5;
+        for (auto* ratio : {&rs.Rat68, &rs.Rat75, &rs.Rat82, &rs.Rat382, &rs.Rat76, &rs.Sig204Net}) (*ratio)(j) = 0.5;
+        rs.Sorted1(j) = rs.MedianSorted(j) = 0.5;
     }
+    rs.RejFlag(4) = 2;
     rs.Sig(3, 1) = 9;
     ClearData(rs);
     EXPECT_EQ(slice(3), (Cells{1, 1}));
     EXPECT_EQ(rs.Sig2(1, 3), 1);
     EXPECT_EQ(rs.Sig(3, 1), 9);
     EXPECT_EQ(rs.RejFlag(3), 0);
-    EXPECT_EQ(rs.Rat68(1), 0);
-    EXPECT_EQ(rs.Rat76(2), 0);
-    EXPECT_EQ(rs.Rat382(3), 0);
+    for (const auto* ratio : {&rs.Rat68, &rs.Rat75, &rs.Rat82, &rs.Rat382, &rs.Rat76, &rs.Sig204Net})
+        for (int j = 1; j <= 3; ++j) EXPECT_EQ((*ratio)(j), 0) << j;
+    // The sorted lists keep the entries of earlier files, and flags behind the last slice stay.
+    EXPECT_EQ(rs.Sorted1(2), 0.5);
+    EXPECT_EQ(rs.MedianSorted(3), 0.5);
+    EXPECT_EQ(rs.RejFlag(4), 2);
     EXPECT_EQ(rs.IsoName(2), "");
     EXPECT_EQ(rs.IsoElem(2), "");
     EXPECT_EQ(rs.IsoCanon(2), "");

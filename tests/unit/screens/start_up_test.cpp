@@ -139,6 +139,47 @@ TEST_F(StartUp, ARelativeStartPathCountsFromTheProgramWhereTheCurrentFolderLacks
     EXPECT_EQ(rs().nIso, 25);
 }
 
+TEST_F(StartUp, OtherPathsWithoutTheirStartPathTellWhatIsMissingAndSeekNothingInTheRootOfTheDisk) {
+    std::filesystem::remove(folder.path("start_path_KolvAGE"));
+    const std::string defaults = retry_text(slash + "KolvAge-default-b01.def");
+    program->start(1);
+    EXPECT_EQ(box_texts(), (std::vector<std::string>{start_path_text("start_path_KolvAGE"), defaults}));
+    EXPECT_EQ(rs().WorkPath, "");
+    EXPECT_EQ(rs().SettingsPath, slash + "KolvAge-default-b01.def");
+    EXPECT_EQ(rs().nSlices, 0);
+    EXPECT_TRUE(forms().frm1_Settings.shown);
+    forget_boxes();
+    Program flex(os, folder.path());
+    flex.start(3);
+    EXPECT_EQ(box_texts(), (std::vector<std::string>{start_path_text("start_path_KolvAGE"), defaults,
+                                                     retry_text(slash + "0-FLEX-UT19-50.xl")}));
+    EXPECT_EQ(flex.state().DataFilePath, slash + "0-FLEX-UT19-50.xl");
+    EXPECT_EQ(flex.state().Method, 3);
+    EXPECT_TRUE(flex.forms().frm1_Settings.shown);
+}
+
+TEST_F(StartUp, AnyOtherStartValueLoadsTheTwoTablesAlone) {
+    program->start(2);
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_EQ(rs().Method, 2);
+    EXPECT_EQ(rs().SettingsPath, "");
+    EXPECT_EQ(rs().DataFileName, "");
+    EXPECT_NE(rs().GrubbsP5(3), 0);
+    EXPECT_NE(rs().StudentT1(1), 0);
+    EXPECT_TRUE(forms().frm1_Settings.shown);
+}
+
+TEST_F(StartUp, ADwellTimeBeyondAllBoundsDoesNotEndTheSequence) {
+    set_key("setIS_Dwell", "\"1e999\"");
+    program->start(0);
+    EXPECT_EQ(box_texts(), std::vector<std::string>{});
+    EXPECT_EQ(rs().Dwell(100), Cell(0.0));
+    EXPECT_EQ(rs().nSTM, 25);
+    EXPECT_EQ(rs().DataFileName, "example-1.csv");
+    EXPECT_EQ(rs().nIso, 25);
+    EXPECT_TRUE(forms().frm1_Settings.shown);
+}
+
 TEST_F(StartUp, UPbStartAsksForItsOwnStartPath) {
     std::filesystem::remove(folder.path("start_path_KolvAGE"));
     program->start(1);
