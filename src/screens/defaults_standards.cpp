@@ -31,8 +31,10 @@ void store_row(Context& context) {
     for (const Entry& entry : form.txtStdEr) rs.Std_Er(entry.index, row) = Val(entry.text);
 }
 
-// 0 stands for a figure that nobody has measured and passes; an empty field does not.
+// 0 stands for a figure that nobody has measured and passes; an empty field does not, unless it is empty because no
+// standard is chosen: it would not let the user go to the list.
 void leave_number(Context& context, Entry& entry) {
+    if (context.forms.frm_SetUP.comboStd.value < 0 && entry.text.empty()) return;
     if (is_numeric(entry.text) && Val(entry.text) >= 0) return store_row(context);
     context.os.warn("Type positive numbers to the records of standards, please.");
     context.forms.frm_SetUP.set_focus(entry);

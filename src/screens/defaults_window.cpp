@@ -106,14 +106,13 @@ void connect_defaults_windows(Program& program) {
     connect_window(program, uranium_lead);
     connect_window(program, flex);
     connect_standards(program);
-    for (const char* list : {"comboPref", "comboRatio"})
-        program.on(flex, list, EventKind::choose, [&flex, list](const Event& event) {
-            colour_choice(*static_cast<ListBox*>(flex.find(list, event.index)));
-        });
-    for (ListBox& list : flex.comboRatio)
-        list.changed = [&rs = context.rs, &list] {
-            if (list.text.empty()) rs.RatioCol(list.index) = 0;
-        };
+    program.on(flex, "comboPref", EventKind::choose,
+               [&flex](const Event& event) { colour_choice(flex.comboPref(event.index)); });
+    program.on(flex, "comboRatio", EventKind::choose, [&context, &flex](const Event& event) {
+        ListBox& list = flex.comboRatio(event.index);
+        colour_choice(list);
+        if (list.text.empty()) context.rs.RatioCol(list.index) = 0;
+    });
 }
 
 }  // namespace kolvar

@@ -79,9 +79,12 @@ void connect_refinement(Program& program) {
     Context& context = program.context();
     RunState& rs = context.rs;
     Frm2UP& form = context.forms.frm2_UP;
-    form.Combo7.changed = [&rs, &form] { rs.setBzzPlot = form.Combo7.value; };
-    form.Combo8.changed = [&rs, &form] { rs.setBzzMethod = form.Combo8.value; };
-    form.chkBzzPrompt.changed = [&rs, &form] { rs.setBzz_Prompt = form.chkBzzPrompt.value; };
+    // Also where the list showed that entry already: the setting may have changed behind it, in the window of the
+    // defaults.
+    program.on(form, "Combo7", EventKind::choose, [&](const Event&) { rs.setBzzPlot = form.Combo7.value; });
+    program.on(form, "Combo8", EventKind::choose, [&](const Event&) { rs.setBzzMethod = form.Combo8.value; });
+    program.on(form, "chkBzzPrompt", EventKind::click,
+               [&](const Event&) { rs.setBzz_Prompt = form.chkBzzPrompt.value; });
     program.on(form, "cmdZizeges", EventKind::click, [&context](const Event&) { cmdZizeges(context); });
     program.on(form, "cmdAccept", EventKind::click, [&context](const Event&) { cmdAccept(context); });
 }

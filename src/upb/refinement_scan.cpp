@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 
 #include "core/numbers.hpp"
@@ -16,6 +15,7 @@ namespace kolvar {
 
 namespace {
 
+constexpr int widest_band = 20000;    // its pairs are still counted by an int
 constexpr double beyond_sums = 1e15;  // squares of such signals could overflow
 
 // No fault lies ahead in any interval of the band, and no value that the sort passes over.
@@ -77,7 +77,7 @@ int width_of_band(const RunState& rs, const Frm2UP& form) {
     const double range = Val(form.txtZizzRange.text);
     const bool per_cent = form.comboBzz.value == 0;
     const double steps = per_cent ? std::max(1.0, std::trunc(rs.SelN.val() * range / 100)) : round_half_even(range);
-    if (std::fabs(steps) > std::numeric_limits<int>::max() / 4) fail(FaultKind::overflow);
+    if (std::fabs(steps) > widest_band) fail(FaultKind::overflow);
     return static_cast<int>(steps);
 }
 
@@ -244,6 +244,8 @@ void ziz_Manager_UP(Context& context) {
     form.lblZizzMin1.text = form.lblZizzMin2.text = "10000000";
 
     const int steps = rs.ZizzSteps;
+    const int across = 2 * steps + 1;
+    int done = 0;
     const auto low_of = [&](int offset) { return std::max(1, rs.BestLow.val() + offset); };
     const auto upp_of = [&](int offset) { return std::min(rs.nSlices, rs.BestUpp.val() + offset); };
     const bool hg_corrected = rs.Method == 1 && form.chkHgCorr.on();
@@ -263,7 +265,8 @@ void ziz_Manager_UP(Context& context) {
                 if (quick) quick->begin(low);
             }
         }
-        context.os.progress(rs.ZizzDLow + steps + 1, 2 * steps + 1);
+        // Pairs done of all, painted once for each lower limit: the paint takes longer than a quick pair.
+        context.os.progress(done += across, across * across);
     }
     limits.end();
 }

@@ -14,6 +14,13 @@ QGridLayout* tight_grid_in(FormWindow& window, const Control& holder) {
     return grid;
 }
 
+// Captions do not touch the fields beside them.
+QHBoxLayout* line_of(FormWindow& window, std::initializer_list<const Control*> controls, int stretched = -1) {
+    QHBoxLayout* const line = row_of(window, controls, stretched);
+    line->setSpacing(5);
+    return line;
+}
+
 // What changes no result stands back.
 void small(FormWindow& window, const Control& frame) {
     QFont font = window.of(frame)->font();
@@ -23,7 +30,7 @@ void small(FormWindow& window, const Control& frame) {
 
 // Controls in a line of a frame of their own.
 void lay_out_line(FormWindow& window, const Control& frame, std::initializer_list<const Control*> controls) {
-    tight_grid_in(window, frame)->addLayout(row_of(window, controls), 0, 0);
+    tight_grid_in(window, frame)->addLayout(line_of(window, controls), 0, 0);
 }
 
 QVBoxLayout* headed_column(FormWindow& window, const char* heading) {
@@ -56,7 +63,7 @@ void lay_out_pairs(FormWindow& window, QGridLayout* grid, const std::vector<std:
 
 QVBoxLayout* lay_out_files(FormWindow& window, DefaultsForm& f) {
     auto* method = tight_grid_in(window, f.frameMethod);
-    method->addLayout(row_of(window, {&f.optMethod(0), &f.optMethod(1)}), 0, 0);
+    method->addLayout(line_of(window, {&f.optMethod(0), &f.optMethod(1)}), 0, 0);
     for (int k = 2; k <= 3; ++k) method->addWidget(window.of(f.optMethod(k)), k - 1, 0);
     auto* mineral = tight_grid_in(window, f.frameMinerals);
     mineral->addWidget(window.of(f.comboMineral), 0, 0);
@@ -67,7 +74,7 @@ QVBoxLayout* lay_out_files(FormWindow& window, DefaultsForm& f) {
     window.of(f.txtAbbrSTD)->setMinimumWidth(number_width);
     auto* column = headed_column(window, "File names and standards");
     add(window, column, {&f.frameMethod});
-    column->addLayout(row_of(window, {&f.lblAbbrSTD, &f.txtAbbrSTD}, 1));
+    column->addLayout(line_of(window, {&f.lblAbbrSTD, &f.txtAbbrSTD}, 1));
     add(window, column, {&f.frameMinerals});
     return column;
 }
@@ -93,10 +100,10 @@ void lay_out_standards(FormWindow& window, FrmSetUP& f) {
     question->setContentsMargins(0, 0, 0, 0);
     wrapping(window, f.lblNewSTD);
     question->addWidget(window.of(f.lblNewSTD));
-    question->addLayout(row_of(window, {&f.txtNewSTD, &f.cmdOKnewSTD, &f.cmdCancelNewStd}, 0));
+    question->addWidget(window.of(f.txtNewSTD));
+    question->addLayout(line_of(window, {&f.cmdOKnewSTD, &f.cmdCancelNewStd}, 0));
     grid->addWidget(window.of(f.cmdNewSTD), 11, 0, 1, 3);
     grid->addWidget(window.of(f.Picture2), 12, 0, 1, 3);
-    window.of(f.txtNewSTD)->setMinimumWidth(number_width);
 }
 
 QVBoxLayout* lay_out_corrections(FormWindow& window, DefaultsForm& f) {
@@ -158,8 +165,8 @@ QVBoxLayout* lay_out_plots(FormWindow& window, DefaultsForm& f, const Control* f
     const Control* const tested[] = {&f.chkOL68, &f.chkOL75, &f.chkOL82, &f.chkOLUTh, &f.chkOLPbPb};
     for (int k = 0; k < 5; ++k) outliers->addWidget(window.of(*tested[k]), 1 + k / 2, k % 2);
     narrow(window, {&f.txtOL_SD}, 44);
-    outliers->addLayout(row_of(window, {&f.lblOL_SD, &f.txtOL_SD, &f.lblOL_SD2}), 4, 0, 1, 2);
-    outliers->addLayout(row_of(window, {&f.lblManual, &f.optManual(0), &f.optManual(1)}), 5, 0, 1, 2);
+    outliers->addLayout(line_of(window, {&f.lblOL_SD, &f.txtOL_SD, &f.lblOL_SD2}), 4, 0, 1, 2);
+    outliers->addLayout(line_of(window, {&f.lblManual, &f.optManual(0), &f.optManual(1)}), 5, 0, 1, 2);
 
     auto* column = headed_column(window, "Plots and outliers");
     add(window, column, {&f.frameLin, &f.frameLinRatios, &f.frameShow, &f.frameConcordia, &f.frameOutliers});
@@ -186,13 +193,13 @@ QVBoxLayout* lay_out_results(FormWindow& window, DefaultsForm& f) {
     auto* tzero = tight_grid_in(window, f.Frame9);
     for (int k = 0; k <= 2; ++k) tzero->addWidget(window.of(f.optTzero(k)), k, 0);
     narrow(window, {&f.txtDelay}, 44);
-    auto* delay = row_of(window, {&f.txtDelay, &f.lblDelay});
+    auto* delay = line_of(window, {&f.txtDelay, &f.lblDelay});
     delay->setContentsMargins(20, 0, 0, 0);
     tzero->addLayout(delay, 3, 0);
     tzero->addWidget(window.of(f.chkPbAver), 4, 0);
 
     auto* errors = tight_grid_in(window, f.frameErr);
-    errors->addLayout(row_of(window, {&f.comboErr, &f.lblErr}), 0, 0);
+    errors->addLayout(line_of(window, {&f.comboErr, &f.lblErr}), 0, 0);
     for (int k = 0; k <= 3; ++k) errors->addWidget(window.of(f.optErr(k)), 1 + k, 0);
     tight_grid_in(window, f.framePasteDat)->addLayout(column_of(window, {&f.optPasteDat(0), &f.optPasteDat(1)}), 0, 0);
     auto* column = headed_column(window, "Results, errors, output");

@@ -128,6 +128,22 @@ TEST_F(StandardsWindow, WithoutAChosenStandardNothingIsStored) {
     EXPECT_EQ(box_texts(), Names{});
 }
 
+// After a new name none is chosen; the empty fields let the tabulator pass.
+TEST_F(StandardsWindow, EmptyFieldsOfNoStandardCanBeLeft) {
+    open();
+    add("own");
+    EXPECT_EQ(form().comboStd.value, -1);
+    EXPECT_EQ(row_in_fields(), Names(17, ""));
+    form().focus_wanted = nullptr;
+    leave("txtStd", 1);
+    leave("txtStdEr", 8);
+    EXPECT_EQ(box_texts(), Names{});
+    EXPECT_EQ(form().focus_wanted, nullptr);
+    type_at("txtStd", 1, "x");
+    leave("txtStd", 1);
+    EXPECT_EQ(box_texts(), Names{refused});
+}
+
 TEST_F(StandardsWindow, TheNamesCanNotBeTyped) {
     open();
     type(form(), "comboStd", "9");

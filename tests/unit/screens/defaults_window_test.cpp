@@ -332,6 +332,11 @@ TEST_F(DefaultsWindow, AnEmptiedRatioPartnerIsForgottenAtOnce) {
     program->dispatch(event);
     EXPECT_EQ(rs().RatioCol(0), 0);
     EXPECT_EQ(flex().comboRatio(0).back, rgb(128, 128, 128));
+    // Also where the field was empty before.
+    rs().RatioCol(1) = 5;
+    event.index = 1;
+    program->dispatch(event);
+    EXPECT_EQ(rs().RatioCol(1), 0);
     click(flex(), "chkRatio3");
     click(flex(), "cmdApply");
     EXPECT_EQ(rs().ratioName(0), Value(""));

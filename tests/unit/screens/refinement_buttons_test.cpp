@@ -107,7 +107,7 @@ TEST_F(RefinementButtons, WaitCursorAndProgressReachTheScreen) {
     open();
     search("1");
     EXPECT_EQ(os.wait_cursors, (std::vector<bool>{true, false}));
-    EXPECT_EQ(os.progresses, (std::vector<std::pair<int, int>>{{1, 3}, {2, 3}, {3, 3}, {1, 1}}));
+    EXPECT_EQ(os.progresses, (std::vector<std::pair<int, int>>{{3, 9}, {6, 9}, {9, 9}, {1, 1}}));
 }
 
 TEST_F(RefinementButtons, LimitThatIsNotProposedGoesBackToTheStart) {
@@ -327,6 +327,22 @@ TEST_F(RefinementButtons, ListsAndBoxWriteTheirSettingsAtOnceAndTheBandDoesNot) 
     search("1");
     EXPECT_EQ(rs().setZizzRange, Value(10));
     EXPECT_EQ(rs().setZizzType, Value(0));
+}
+
+// The window of the defaults changes the settings behind the lists; choosing what a list shows already is a choice too.
+TEST_F(RefinementButtons, AnEntryThatIsChosenAgainIsWrittenToo) {
+    open();
+    click(form(), "cmdSett");
+    ProgramOnKit::choose(forms().frm_SetUP, "comboBzzPlot", "Tera-Wasserburg");
+    ProgramOnKit::choose(forms().frm_SetUP, "comboBzzMethod", "Skewness");
+    click(forms().frm_SetUP, "cmdApply");
+    ASSERT_EQ(rs().setBzzPlot, Value(1));
+    ASSERT_EQ(rs().setBzzMethod, Value(1));
+    EXPECT_EQ(form().Combo7.text, "Wetherill");
+    ProgramOnKit::choose(form(), "Combo7", "Wetherill");
+    ProgramOnKit::choose(form(), "Combo8", "RMS");
+    EXPECT_EQ(rs().setBzzPlot, Value(0));
+    EXPECT_EQ(rs().setBzzMethod, Value(0));
 }
 
 // The one entry is the first, whatever the default file holds: 207/235 in name, 206/238 in fact.

@@ -147,6 +147,28 @@ TEST_F(DefaultFile, AFileThatEndsInsideARowChangesNothing) {
     EXPECT_EQ(rs.Method, 3);
 }
 
+// Wherever a file breaks off, all of the former state stays.
+TEST_F(DefaultFile, AFileCutBeforeItsLastValueLeavesTheFormerStateWhole) {
+    read(with_standards(3));
+    rs.set235_Calc = "";
+    rs.Method = 3;
+    rs.LineBuf = "former";
+    rs.Std_Name(2) = "own";
+    const std::string former = written();
+    const std::string bytes = two_standards();
+    const std::size_t last_value = bytes.find("\"text 82\"");
+    ASSERT_NE(last_value, std::string::npos);
+    for (std::size_t length = 0; length < last_value; length += 7) {
+        expect_refused(bytes.substr(0, length));
+        ASSERT_EQ(rs.LineBuf, "former") << length;
+        ASSERT_EQ(rs.setNumSTD, Value(3)) << length;
+    }
+    expect_refused(with_standards(31));
+    os.boxes.clear();
+    os.yes_or_no = {true};
+    EXPECT_EQ(written(), former);
+}
+
 // They come from keys that are in no default file.
 TEST_F(DefaultFile, InternalStandardsBlankAndScaleFollowTheSettings) {
     rs.setIntSta = "Si29";

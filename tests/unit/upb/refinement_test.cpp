@@ -439,9 +439,9 @@ TEST_F(Scan, TooShortABlankBringsOneMessagePerPair) {
         EXPECT_TRUE(box.text.starts_with("The selected blank interval is too short.")) << box.text;
 }
 
-TEST_F(Scan, ProgressIsToldAndEnds) {
+TEST_F(Scan, ProgressCountsPairsDoneOfAllAndEnds) {
     scan("1", data);
-    EXPECT_EQ(os.progresses, (std::vector<std::pair<int, int>>{{1, 3}, {2, 3}, {3, 3}, {1, 1}}));
+    EXPECT_EQ(os.progresses, (std::vector<std::pair<int, int>>{{3, 9}, {6, 9}, {9, 9}, {1, 1}}));
 }
 
 // From slice 30 on 206/238 is the same everywhere.
@@ -464,15 +464,28 @@ TEST_F(Scan, FaultPutsBackTheLimitsItBeganWith) {
     EXPECT_EQ(os.progresses.back(), std::make_pair(1, 1));
 }
 
+// Its pairs could not be counted, and would not end.
 TEST_F(Scan, BandBeyondAllSlicesIsAFault) {
-    try {
-        scan("3000000000", data);
-        ADD_FAILURE();
-    } catch (const Fault& fault) {
-        EXPECT_EQ(fault.kind, FaultKind::overflow);
+    for (const char* range : {"3000000000", "20001", "-20001"}) {
+        try {
+            scan(range, data);
+            ADD_FAILURE() << range;
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.kind, FaultKind::overflow);
+        }
+        EXPECT_EQ(rs.SelLow, Limit(16));
+        EXPECT_FALSE(rs.ZizzRunning);
+        EXPECT_EQ(rs.ZizzSteps, 0);
     }
+}
+
+TEST_F(Scan, BandBelowNothingTriesNoPair) {
+    scan("-2", data);
+    EXPECT_EQ(rs.ZizzSteps, -2);
     EXPECT_EQ(rs.SelLow, Limit(16));
-    EXPECT_FALSE(rs.ZizzRunning);
+    EXPECT_EQ(rs.SelUpp, Limit(25));
+    EXPECT_EQ(form.lblBestLow.text + form.lblBestUpp.text + form.lblImprove.text, "");
+    EXPECT_EQ(os.progresses, (std::vector<std::pair<int, int>>{{1, 1}}));
 }
 
 }  // namespace
