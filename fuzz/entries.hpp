@@ -46,6 +46,33 @@ private:
     std::string path_;
 };
 
+// Files that have a name of their own lie in a folder, which goes with the object.
+class ScratchFolder {
+public:
+    explicit ScratchFolder(const std::string& name)
+        : path_((std::filesystem::temp_directory_path() / ("kolvar-fuzz-" + std::to_string(getpid()) + "-" + name))
+                    .string()) {
+        std::filesystem::create_directories(path_);
+    }
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+    std::string write(const std::string& name, Bytes bytes) const {
+        std::string path = join_path(path_, name);
+        std::ofstream file(path, std::ios::binary | std::ios::trunc);
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        return path;
+    }
+
+private:
+    std::string path_;
+};
+
 // A promise of the reader is broken: the fuzzer stops here.
 inline void require(bool holds) {
     if (!holds) std::abort();

@@ -31,7 +31,7 @@ struct Band {
 
 class BandPlot {
 public:
-    BandPlot(RunState& rs, Frm2UP& form) : rs_(rs), form_(form), area_(plot::lower_area(form)) {
+    BandPlot(RunState& rs, Frm2UP& form) : rs_(rs), area_(plot::lower_area(form)) {
         constexpr std::array<double, ratio_count> centres{0.25, 0.38, 0.5, 0.62, 0.75};
         const std::array<Colour, ratio_count> colours{palette(0), palette(12), palette(10), palette(1), palette(13)};
         for (std::size_t k = 0; k < bands_.size(); ++k) {
@@ -145,7 +145,6 @@ private:
     }
 
     RunState& rs_;
-    Frm2UP& form_;
     plot::Area area_;
     std::array<Band, ratio_count> bands_{};
 };
