@@ -5,6 +5,7 @@
 #include "batch/drift_plot.hpp"
 #include "batch/master_file.hpp"
 #include "screens/screens.hpp"
+#include "screens/sequence.hpp"
 #include "screens/time_pieces.hpp"
 
 namespace kolvar {
@@ -28,8 +29,8 @@ void lay_out_drift_window(FrmDrift& form) {
     }
     place(form.pictTicksX, plot.left, plot.top + plot.height, plot.width, drift_tick_room);
     place(form.pictTicksY, plot.left - drift_tick_room, plot.top, drift_tick_room, plot.height);
-    place(form.lblCF, plot.left, margin, 2100, label_height);
-    place(form.lblExpected, plot.left + 2160, margin, 2100, label_height);
+    place(form.lblCF, plot.left, margin, 2550, label_height);
+    place(form.lblExpected, plot.left + 2610, margin, 2100, label_height);
     place(form.lblPosition, plot.left, plot.top + plot.height + drift_tick_room + label_height, plot.width,
           label_height);
     place(form.pictSide, form.width - margin - side_width, head, side_width,
@@ -75,6 +76,8 @@ void cmdAccept(Context& context) {
     rs.ListMode = 1;
     SaveMaster(rs, context.os, context.forms.frm_FileList.FlexGrid2, rs.MasterPath);
     context.shell.close(form);
+    // The walk goes on with the samples: the strip says so, and a standard in work can't be saved any more.
+    show_sequence(context);
 }
 
 }  // namespace

@@ -53,7 +53,9 @@ void lay_out_side(FormWindow& window, const FrmDrift& f) {
     grid->setRowMinimumHeight(row++, 10);
     grid->addLayout(row_of(window, {&f.optLinear, &f.optLog}), row++, 0, 1, 4);
     grid->addWidget(window.of(f.lblResidual), row++, 0, 1, 4);
-    grid->addLayout(row_of(window, {&f.Command3, &f.Command8}), row++, 0, 1, 4);
+    auto* const rejecting = row_of(window, {&f.Command3, &f.Command8});
+    rejecting->setSpacing(6);
+    grid->addLayout(rejecting, row++, 0, 1, 4);
     grid->setRowStretch(row, 1);
     grid->setColumnStretch(0, 1);
     for (const Control* unused :

@@ -74,7 +74,7 @@ struct FrmDrift : Form {
     Label lblLR75r{*this, "lblLR75r"};
     Label lblLR76b{*this, "lblLR76b"};
     Label lblLR76r{*this, "lblLR76r"};
-    Label lblLegend{*this, "lblLegend", "cross: standard   square: line at a sample"};
+    Label lblLegend{*this, "lblLegend", "cross: standard   square: line at a sample\n207/235 stands as measured"};
     Label lblResidual{*this, "lblResidual", "Average residual error of standards:"};
     OptionButton optLinear{*this, "optLinear", "Linear", 1};
     OptionButton optLog{*this, "optLog", "Logarithmic", 1};
