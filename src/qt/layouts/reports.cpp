@@ -83,8 +83,10 @@ void lay_out_folder(FormWindow& window, const FrmChoseDir& f) {
     whole->addWidget(window.of(f.lblAdvice));
     whole->addWidget(window.of(f.Dir1), 1);
     whole->addWidget(window.of(f.lblPath));
-    whole->addLayout(button_row(window, {}, {&f.cmdSave, &f.cmdCancel}));
-    window.set_default_buttons({&f.cmdSave});
+    whole->addLayout(row_of(window, {&f.Drive1, &f.List1}, 1));
+    whole->addWidget(window.of(f.FlexGrid2), 1);
+    whole->addLayout(button_row(window, {&f.cmdOK, &f.cmdProc}, {&f.cmdSave, &f.cmdCancel}));
+    window.set_default_buttons({&f.cmdSave, &f.cmdOK});
     window.set_escape_buttons({&f.cmdCancel});
     window.add_shortcut(f.cmdSave, "Alt+S");
 }

@@ -44,14 +44,22 @@ struct FrmOmit : Form {
 };
 
 struct FrmChoseDir : Form {
-    FrmChoseDir() : Form("frm_ChoseDir", "KOLVAR  -  StartKit directory") {}
+    FrmChoseDir() : Form("frm_ChoseDir", "KOLVAR  -  StartKit directory") {
+        // The folder tree shows all drives; what belongs to a sequence of files comes with the U/Pb path.
+        Drive1.visible = List1.visible = FlexGrid2.visible = cmdOK.visible = cmdProc.visible = false;
+    }
 
     Label lblAdvice{*this, "lblAdvice",
                     "Recommended procedure after installation: (1) create your preferred directory, (2) copy the "
                     "content of the entire 'C:\\Kolvar-StartKit' directory to the preferred directory, (3) save the "
                     "path."};
+    ListBox Drive1{*this, "Drive1"};
     FolderList Dir1{*this, "Dir1"};
+    ListBox List1{*this, "List1"};
     Label lblPath{*this, "lblPath"};
+    Grid FlexGrid2{*this, "FlexGrid2"};
+    Button cmdOK{*this, "cmdOK", "OK"};
+    Button cmdProc{*this, "cmdProc", "Process"};
     Button cmdSave{*this, "cmdSave", "Save this path and this starting directory"};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
