@@ -19,7 +19,9 @@ fi
 echo "== No display: walking the example through the windows offscreen"
 rm -rf build/demo
 mkdir -p build/demo
-build/app/kolvar_scenario --app-folder build/app --work build/demo tools/demo.scn >build/demo/printed.jsonl
-build/app/kolvar_scenario --app-folder build/app --work build/demo tools/demo_uranium_lead.scn >>build/demo/printed.jsonl
-echo "== The result table is build/demo/example-1.txt; the pictures of the windows are:"
+for walk in demo demo_uranium_lead demo_session; do
+    build/app/kolvar_scenario --app-folder build/app --work build/demo "tools/$walk.scn" >>build/demo/printed.jsonl
+done
+echo "== The result table is build/demo/example-1.txt, the corrected ratios of a session build/demo/session/0-session.msf;"
+echo "   the pictures of the windows are:"
 ls build/demo/*.png
