@@ -296,6 +296,17 @@ TEST_F(Concentrations, WithoutDwellTimeTheTermsOfTheColumnBeforeStayInForce) {
     EXPECT_DOUBLE_EQ(rs.e5, 0.0001);
 }
 
+TEST_F(Concentrations, WithoutDwellTimeTheErrorsOfTheStandardsValuesAreTheColumnsOwn) {
+    rs.Dwell(2) = Mark::empty;
+    net(2, {0, 0, 0, 0, -1, -1});
+    rs.IsoISerr(2) = 300;  // 10 % of 3000 ppm, while the column before has 1 %
+    rs.e6 = rs.e7 = 9;
+    compute();
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_DOUBLE_EQ(rs.e6, 0.0001);
+    EXPECT_DOUBLE_EQ(rs.e7, 0.01);
+}
+
 TEST_F(Concentrations, TermsSurviveFromOneCalculationToTheNext) {
     compute();
     EXPECT_EQ(rs.e1, 1.0);   // 1 / (100 x 0.01), the last slice of Y89

@@ -72,6 +72,15 @@ TEST_F(Matching, FewerStandardsLeaveTheOthersOut) {
     EXPECT_EQ(rs.IsoISidx(3), 1);
 }
 
+TEST_F(Matching, OnlyThreeStandardsBringInTheThird) {
+    heads({"Si29", "Y89", "U238"});
+    rs.setPeriod = 0, rs.setISnum = 4, rs.setMas2 = 80, rs.setMass3 = 200;
+    AssignInternalStandards(rs);
+    EXPECT_EQ(rs.IsoISidx(1), 1);
+    EXPECT_EQ(rs.IsoISidx(2), 2);
+    EXPECT_EQ(rs.IsoISidx(3), 2);
+}
+
 TEST_F(Matching, TheMassIsAllDigitsOfTheHeadJoined) {
     heads({"Hg198(LR)", "ThO248", "Ar40Ar40", "TIC"});
     rs.setPeriod = 0, rs.setISnum = 2, rs.setMas2 = 198;
@@ -130,6 +139,19 @@ TEST_F(Matching, TheLastEqualRowWinsAndCompositionAndStandardTakeTheCanonicalNam
     EXPECT_EQ(rs.StdConcErr(1), Cell(13.0));
     EXPECT_EQ(rs.StdCps(1), Cell(5.0));
     EXPECT_EQ(rs.StdCpsErr(1), Cell(15.0));
+}
+
+TEST_F(Matching, AColumnWithoutARowLosesTheValuesOfTheFormerFiles) {
+    heads({"Si29", "Y89"});
+    known("Si29");
+    rs.BlankFromData = 1;
+    rs.StdConc(2) = 11.0, rs.StdConcErr(2) = 12.0, rs.StdCps(2) = 13.0, rs.StdCpsErr(2) = 14.0;
+    MatchReferences(context);
+    EXPECT_EQ(rs.StdConc(2), Cell(Mark::empty));
+    EXPECT_EQ(rs.StdConcErr(2), Cell(Mark::empty));
+    EXPECT_EQ(rs.StdCps(2), Cell(Mark::empty));
+    EXPECT_EQ(rs.StdCpsErr(2), Cell(Mark::empty));
+    EXPECT_EQ(rs.IsoOmit(2), 1);
 }
 
 TEST_F(Matching, TheBlankFileTakesTheHeadAsReadAndAMissingRowLeavesTheFormerDeviation) {

@@ -243,6 +243,21 @@ TEST_F(MatrixTable, Below4SlicesNoTestCanBeChosenAndNoCellClicked) {
     EXPECT_EQ(form.pict1.canvas.labels().size(), 0U);
 }
 
+TEST_F(MatrixTable, FourSlicesAreEnoughForTheStoredTestsAndForAClick) {
+    rs.setRejMinMax = 1;
+    rs.ModeData = 1;
+    rs.setISnum = 1;
+    rs.IS1col = 1;
+    isotope("Si29", {100, 110, 90, 100});
+    isotope("Sr88", {1, 3, 4, 2});
+    load_matrix(context);
+    EXPECT_TRUE(form.chkMinMax.on());
+    EXPECT_TRUE(form.chkMinMax.enabled && form.chkGrubbs.enabled && form.cmdReset.enabled);
+    EXPECT_EQ(picture(), "gxxg xxx.");
+    click_matrix(context, 2, 4);
+    EXPECT_EQ(picture(), "gxxg xxxM");
+}
+
 TEST_F(MatrixTable, StoredTestsAreSwitchedOnInTheirOrder) {
     rs.setShowMinMax = 1;
     rs.setRejMinMax = 1;

@@ -50,6 +50,35 @@ TEST_F(MatrixTests, NoSliceIsTakenAlongWhileAFileIsMade) {
     EXPECT_EQ(picture(), ".xx.. x...x");
 }
 
+TEST_F(MatrixTests, WhileAFileIsMadeRowsWithoutABlankHaveTheirExtremesToo) {
+    rs.ModeCreateBLK = 1;
+    isotope("Si29", {100, 110, 90, 100, 100});
+    isotope("Sr88", {10, 20, 30, 40, 50});
+    rs.BlkMean(1) = rs.BlkMean(2) = Mark::empty;
+    load_matrix(context);
+    ASSERT_TRUE(rs.CpsSD(1).is_dashes());
+    show_min_max();
+    EXPECT_EQ(picture(), ".mc.. c...m");
+    show_min_max();
+    min_max();
+    EXPECT_EQ(picture(), ".xx.. x...x");
+    min_max();
+    EXPECT_EQ(picture(), "..... .....");
+    // A deviation can't be told for them.
+    form.txtSD.text = "0.1";
+    deviation();
+    EXPECT_EQ(picture(), "..... .....");
+}
+
+TEST_F(MatrixTests, OnRatiosCellsWithDashesAreNotRejectedAsExtremes) {
+    three_isotopes();
+    rs.RatioSD(2) = 0;
+    view(form.optIIS);
+    ASSERT_EQ(texts(2), "--- --- --- --- ---");
+    min_max();
+    EXPECT_EQ(row(2), "x....");  // with the first slice of the standard alone
+}
+
 TEST_F(MatrixTests, AnotherNumberOfStandardsThanOneToThreeTakesNoSlice) {
     three_isotopes();
     rs.setISnum = 4;
@@ -148,6 +177,15 @@ TEST_F(DeviationTests, OnlyTheFirstStandardTakesTheSliceOfADeviation) {
     EXPECT_EQ(picture(), "gxggg xxgxx .x...");
 }
 
+TEST_F(DeviationTests, WhileAFileIsMadeTheFirstStandardTakesNoSliceAlong) {
+    rs.ModeData = 0;
+    rs.IS1col = 2;
+    deviation();
+    EXPECT_EQ(row(1), "ggggg");
+    EXPECT_EQ(row(2), "x..xx");
+    EXPECT_EQ(row(3), ".....");
+}
+
 TEST_F(DeviationTests, SwitchedOffTheSlicesOfEveryStandardComeBack) {
     rs.setISnum = 2;
     rs.IS2col = 2;
@@ -226,6 +264,16 @@ TEST_F(GrubbsTests, OnlyADatumAboveTheCriticalValueIsRejected) {
     EXPECT_EQ(picture(), "ggggg x...x .....");
 }
 
+TEST_F(GrubbsTests, AMinimumAtTheCriticalValueIsNotRejected) {
+    rs.GrubbsP5(5) = 1;  // g of the minimum is (100 - 80) / 20
+    grubbs();
+    EXPECT_EQ(row(2), "....x");
+    grubbs();
+    rs.GrubbsP5(5) = 0.999;
+    grubbs();
+    EXPECT_EQ(row(2), "x...x");
+}
+
 TEST_F(GrubbsTests, ItIsOnePassWithOneCandidateAtEachEnd) {
     data(rs.Sig2, 2, {100, 100, 100, 140, 140});
     cps_statistics(2, 100, 20, 2, 5);
@@ -272,6 +320,17 @@ TEST_F(GrubbsTests, OnRatiosNoRowIsLeftOutAndNoSliceTakenAlong) {
     ratio_statistics(2, 1, 0.25, 2, 6);
     grubbs();
     EXPECT_EQ(picture(), "ggggg ggggx ggggg");
+}
+
+TEST_F(GrubbsTests, OnRatiosARowWithoutAPositiveRatioIsLeftOutAtBothEnds) {
+    view(form.optIIS);
+    data(rs.Ratio, 2, {-9, -1, -1, -1, -1});
+    ratio_statistics(2, -2.6, 0.25, 2, 0);
+    show_grubbs();
+    EXPECT_EQ(row(2), ".....");
+    show_grubbs();
+    grubbs();
+    EXPECT_EQ(row(2), ".....");
 }
 
 TEST_F(GrubbsTests, TheStandardsOwnRatioIsOneAndNeverRejected) {
@@ -362,6 +421,18 @@ TEST_F(MatrixTests, ResetClearsCellsBoxesAndTheLock) {
     EXPECT_FALSE(form.txtSD.locked);
     EXPECT_TRUE(form.chkShowMinMax.enabled && form.chkGrubbs.enabled && form.comboProc.enabled);
     EXPECT_FALSE(form.cmdReset.enabled);
+}
+
+TEST_F(MatrixTests, ResetTakesTheMarksAndTheirLegendOff) {
+    three_isotopes();
+    show_min_max();
+    ASSERT_TRUE(form.pictMinMax.visible);
+    click_matrix(context, 2, 3);
+    reset_rejection(context);
+    EXPECT_EQ(picture(), "ggggg ..... .....");
+    EXPECT_FALSE(form.chkShowMinMax.on());
+    EXPECT_FALSE(form.pictMinMax.visible);
+    EXPECT_TRUE(form.chkShowStDev.enabled && form.chkShowGrubbs.enabled);
 }
 
 // By hand -----------------------------------------------------------------------------------------------------------

@@ -204,6 +204,17 @@ TEST_F(Output, RejectionIsToldInItsOrderWithItsBlanks) {
     EXPECT_EQ(line(14), "Rejection:\tS.D. > 3");
 }
 
+TEST_F(Output, EachKindOfRejectionIsToldAlone) {
+    rs.RejManual = 1;
+    EXPECT_EQ(line(14), "Rejection:\tManual    ");
+    rs.RejManual = 0;
+    rs.RejMinMaxOn = 1;
+    EXPECT_EQ(line(14), "Rejection:\tMin & Max    ");
+    rs.RejMinMaxOn = 0;
+    rs.RejGrubbsP = " 1";
+    EXPECT_EQ(line(14), "Rejection:\tP(Grubbs) >  1    ");
+}
+
 TEST_F(Output, RejectedShareIsOfAllCellsOmittedIsotopesIncluded) {
     rs.nRejected = 1;
     // 1 of 2 x 3 = 16.67 %

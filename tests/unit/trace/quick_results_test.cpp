@@ -224,45 +224,65 @@ TEST_F(QuickResults, TheCountOfDataBecomesTheFullSelection) {
 
 // Blank 2 and 4 cps of four slices, signal 12, 14, 16 and 24, 24, 24 of three; 100 ppm of the standard Si29, 30 ppm of
 // Ca43 in the glass with signals 10 and 20, 50 ppm of Si29 there: mean net signals 12 and 20.
-TEST_F(QuickResults, FromTheTimeSelectionEverythingIsCalculatedFirst) {
-    rs.nIso = 2;
-    rs.nSlices = 8;
-    const double si[] = {2, 2, 2, 2, 0, 12, 14, 16};
-    const double ca[] = {4, 4, 4, 4, 0, 24, 24, 24};
-    for (int t = 1; t <= 8; ++t) {
-        rs.Sig(1, t) = si[t - 1];
-        rs.Sig(2, t) = ca[t - 1];
+class QuickResultsOfASelection : public QuickResults {
+protected:
+    void SetUp() override {
+        rs.nIso = 2;
+        rs.nSlices = 8;
+        const double si[] = {2, 2, 2, 2, 0, 12, 14, 16};
+        const double ca[] = {4, 4, 4, 4, 0, 24, 24, 24};
+        for (int t = 1; t <= 8; ++t) {
+            rs.Sig(1, t) = si[t - 1];
+            rs.Sig(2, t) = ca[t - 1];
+        }
+        rs.ModeData = 1;
+        rs.BlankFromData = 1;
+        rs.BlkLow = 1;
+        rs.BlkUpp = 4;
+        rs.BlkN = 4;
+        rs.SelLow = 6;
+        rs.SelUpp = 8;
+        rs.SelN = 3;
+        rs.SelNGood = 3;
+        rs.IS1conc = 100;
+        rs.IS1err = 1;
+        for (int i = 1; i <= 2; ++i) {
+            rs.IsoISidx(i) = 1;
+            rs.IsoISconc(i) = 100;
+            rs.IsoISerr(i) = 1;
+            rs.Dwell(i) = 0.02;
+            rs.StdCpsErr(i) = 0.5;
+            rs.StdConcErr(i) = 0.5;
+        }
+        rs.StdConc(1) = 50.0;
+        rs.StdConc(2) = 30.0;
+        rs.StdCps(1) = 10.0;
+        rs.StdCps(2) = 20.0;
+        choose_pair(1, 2, 1, 0);
     }
-    rs.ModeData = 1;
-    rs.BlankFromData = 1;
-    rs.BlkLow = 1;
-    rs.BlkUpp = 4;
-    rs.BlkN = 4;
-    rs.SelLow = 6;
-    rs.SelUpp = 8;
-    rs.SelN = 3;
-    rs.SelNGood = 3;
-    rs.IS1conc = 100;
-    rs.IS1err = 1;
-    for (int i = 1; i <= 2; ++i) {
-        rs.IsoISidx(i) = 1;
-        rs.IsoISconc(i) = 100;
-        rs.IsoISerr(i) = 1;
-        rs.Dwell(i) = 0.02;
-        rs.StdCpsErr(i) = 0.5;
-        rs.StdConcErr(i) = 0.5;
-    }
-    rs.StdConc(1) = 50.0;
-    rs.StdConc(2) = 30.0;
-    rs.StdCps(1) = 10.0;
-    rs.StdCps(2) = 20.0;
-    choose_pair(1, 2, 1, 0);
+};
+
+TEST_F(QuickResultsOfASelection, EverythingIsCalculatedFirst) {
     AppendQuickResults(rs, os, QuickCall::from_time_selection);
     EXPECT_TRUE(os.boxes.empty());
     const std::string written = quick();
     // Mean net signals: (10 + 12 + 14) / 3 and (20 + 20 + 20) / 3.
     EXPECT_NE(written.find("\t12.00\t20.00\t\tCa43/Si29:\t1.6666666666666667\t\r\n"), std::string::npos) << written;
     EXPECT_EQ(rs.nData(1), 3);
+}
+
+TEST_F(QuickResultsOfASelection, WithoutAMarkedBlankItsBoxComesAndTheLineIsWrittenWithTheFormerBlank) {
+    rs.BlkLow = rs.BlkUpp = Limit();
+    rs.BlkMean(1) = 4.0;
+    rs.BlkMean(2) = 14.0;
+    rs.BlkSD(1) = rs.BlkSD(2) = 1.0;
+    AppendQuickResults(rs, os, QuickCall::from_time_selection);
+    ASSERT_EQ(os.boxes.size(), 1U);
+    EXPECT_EQ(os.boxes[0].text, "The selected blank interval is too short.");
+    const std::string written = quick();
+    EXPECT_NE(written.find("\t6\t8\t\t\tSi / 100\t"), std::string::npos) << written;
+    // Mean net signals: (8 + 10 + 12) / 3 and 10.
+    EXPECT_NE(written.find("\t10.00\t10.00\t\tCa43/Si29:\t1\t\r\n"), std::string::npos) << written;
 }
 
 }  // namespace
