@@ -17,7 +17,7 @@ QGridLayout* tight_grid_in(FormWindow& window, const Control& holder) {
 // Captions do not touch the fields beside them.
 QHBoxLayout* line_of(FormWindow& window, std::initializer_list<const Control*> controls, int stretched = -1) {
     QHBoxLayout* const line = row_of(window, controls, stretched);
-    line->setSpacing(5);
+    line->setSpacing(4);
     return line;
 }
 
