@@ -114,6 +114,35 @@ TEST_F(LeaveTime, ABlankFileNeedsNoBlankInterval) {
     EXPECT_EQ(rs().FormerBlkLow, Limit());
 }
 
+TEST_F(LeaveTime, TheSelectedSlicesAreCountedAnewInBothCells) {
+    write_run(10);
+    go();
+    mark(left, 1, 2);
+    mark(right, 1, 12);
+    mark(left, 0, 13);
+    mark(right, 0, 16);
+    rs().SelN = 99;
+    rs().SelNGood = 99;
+    EXPECT_EQ(leave(), Names{});
+    EXPECT_EQ(rs().SelN, Limit(4));
+    EXPECT_EQ(rs().SelNGood, 4);
+}
+
+TEST_F(LeaveTime, LimitsOfABlankThatIsNotUsedAreNotKeptForTheNextFile) {
+    set_key("setBLK_IS", "0");
+    write_kit("2004-12-19-a.blk", "\"Si29\",0,1\r\n\"Ca43\",0,1\r\n\"U238\",0,1\r\n");
+    write_run(10);
+    go();
+    mark(left, 0, 13);
+    mark(right, 0, 16);
+    rs().BlkLow = 3;
+    rs().BlkUpp = 9;
+    EXPECT_EQ(leave(), Names{});
+    EXPECT_EQ(rs().FormerLow, Limit(13));
+    EXPECT_EQ(rs().FormerBlkLow, Limit());
+    EXPECT_EQ(rs().FormerBlkUpp, Limit());
+}
+
 // Mean 220 / 12 = 18.33; the spike lies 91.67 above it. s.d. = root((11 x 8.33^2 + 91.67^2) / 11) = root(833.33)
 // = 28.87, three times that 86.60: a spike, in two isotopes.
 TEST_F(LeaveTime, NoisyBlankIsAskedAboutWithTheCountOfAllIsotopesTogether) {
@@ -171,6 +200,8 @@ TEST_F(LeaveTime, AnsweredYesTheBlankBecomesTheSelectionOfABlankFileRun) {
     EXPECT_EQ(rs().BlkUppX, upper);  // keeps its place
     EXPECT_EQ(rs().BlkSpikes, 0);
     EXPECT_EQ(rs().FormerLow, Limit());
+    EXPECT_EQ(form().pict1.canvas.commands().size(), 1U);  // both plots are empty
+    EXPECT_EQ(form().pict2.canvas.commands().size(), 1U);
     Frm1Settings& settings = forms().frm1_Settings;
     EXPECT_TRUE(settings.optCreatBLK.on());
     EXPECT_FALSE(settings.Frame1.enabled || settings.cmdLoadSTC.enabled || settings.cmdNext.enabled);
