@@ -37,11 +37,35 @@ std::string RecordReader::line() {
     return out;
 }
 
-Value RecordReader::field() {
+void RecordReader::to_field_end() {
+    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+}
+
+void RecordReader::end_field() {
+    if (at_ >= text_.size()) return;
+    if (text_[at_] == ',') {
+        ++at_;
+        after_comma_ = true;
+    } else {
+        end_line();
+    }
+}
+
+// True when the next field is quoted.
+bool RecordReader::begin_field() {
     if (at_end()) fail_here(FaultKind::end_of_file);
     after_comma_ = false;
     while (at_ < text_.size() && is_blank(text_[at_])) ++at_;
-    return at_ < text_.size() && text_[at_] == '"' ? quoted_field() : bare_field();
+    return at_ < text_.size() && text_[at_] == '"';
+}
+
+Value RecordReader::field() { return begin_field() ? quoted_field() : bare_field(); }
+
+std::string RecordReader::verbatim_field() {
+    if (begin_field()) return quoted_field().text();
+    std::string out(bare_text());
+    end_field();
+    return out;
 }
 
 Value RecordReader::quoted_field() {
@@ -57,21 +81,20 @@ Value RecordReader::quoted_field() {
     }
     // Whatever stands between the closing quote and the comma belongs to no field.
     at_ = closing + 1;
-    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+    to_field_end();
     Value out(text_.substr(from, closing - from));
-    if (at_ < text_.size() && text_[at_] == ',') {
-        ++at_;
-        after_comma_ = true;
-    } else if (at_ < text_.size()) {
-        end_line();
-    }
+    end_field();
     return out;
 }
 
-Value RecordReader::bare_field() {
+std::string_view RecordReader::bare_text() {
     const std::size_t from = at_;
-    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
-    const std::string_view held = trimmed(std::string_view(text_).substr(from, at_ - from));
+    to_field_end();
+    return trimmed(std::string_view(text_).substr(from, at_ - from));
+}
+
+Value RecordReader::bare_field() {
+    const std::string_view held = bare_text();
     Value out;
     if (held == "#TRUE#") {
         out = -1;
@@ -87,12 +110,7 @@ Value RecordReader::bare_field() {
             out = read.number;
         }
     }
-    if (at_ < text_.size() && text_[at_] == ',') {
-        ++at_;
-        after_comma_ = true;
-    } else if (at_ < text_.size()) {
-        end_line();
-    }
+    end_field();
     return out;
 }
 

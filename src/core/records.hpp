@@ -23,12 +23,17 @@ public:
     std::string line();
     // The next field. Fault(end_of_file) when none is left or the file ends inside a quoted field.
     Value field();
-    std::string text_field();  // the field as a text
-    double number_field();     // the field by its number (leading-number rule)
+    std::string text_field();      // the field as a text
+    std::string verbatim_field();  // the text as it stands: the name 2024.10 is no number
+    double number_field();         // the field by its number (leading-number rule)
 
 private:
+    bool begin_field();
     Value quoted_field();
     Value bare_field();
+    std::string_view bare_text();
+    void to_field_end();
+    void end_field();
     void end_line();
     [[noreturn]] void fail_here(FaultKind kind, std::string offending = {}) const;
 

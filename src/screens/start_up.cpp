@@ -23,7 +23,7 @@ void read_start_path(RunState& rs, Platform& os, const std::string& name) {
         [&] {
             const std::string path = join_path(rs.AppPath1, name);
             RecordReader reader(to_text(read_bytes(path)), path);
-            rs.WorkPath = start_kit_folder(rs, reader.text_field());
+            rs.WorkPath = start_kit_folder(rs, reader.verbatim_field());
         },
         [&](const Fault&) {
             os.warn("Error occurred while trying to load file: '" + name +

@@ -136,6 +136,14 @@ TEST(RecordReader, TextFieldsOfNumbersAreTheirDecimalForm) {
     EXPECT_EQ(reader.text_field(), "");
 }
 
+TEST(RecordReader, AVerbatimFieldIsNoNumberThoughItLooksLikeOne) {
+    RecordReader reader(" 2024.10 ,007\r\n#TRUE#,\"1e999\" x,1e999,\n", "start_path");
+    for (const char* expected : {"2024.10", "007", "#TRUE#", "1e999", "1e999", ""})
+        EXPECT_EQ(reader.verbatim_field(), expected);
+    EXPECT_TRUE(reader.at_end());
+    EXPECT_EQ(fault_of([&] { reader.verbatim_field(); }).kind, FaultKind::end_of_file);
+}
+
 TEST(RecordReader, ALineIsHandedOutAsItStands) {
     RecordReader reader(" a, \"b\" \r\n\r\n1,2\rrest", "grubbs.dat");
     EXPECT_EQ(reader.line(), " a, \"b\" ");

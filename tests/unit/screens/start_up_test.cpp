@@ -130,6 +130,15 @@ TEST_F(StartUp, StartPathIsTheFirstFieldQuotedOrBare) {
     }
 }
 
+TEST_F(StartUp, ABareStartPathThatLooksLikeANumberIsTheNameOfAFolder) {
+    std::filesystem::rename(folder.path("start-kit"), folder.path("2024.10"));
+    folder.write("start_path", " 2024.10 ,rest\r\n");
+    program->start(0);
+    EXPECT_EQ(box_texts(), std::vector<std::string>{});
+    EXPECT_EQ(rs().WorkPath, folder.path("2024.10"));
+    EXPECT_EQ(rs().nIso, 25);
+}
+
 TEST_F(StartUp, ARelativeStartPathCountsFromTheProgramWhereTheCurrentFolderLacksIt) {
     std::filesystem::rename(folder.path("start-kit"), folder.path("kit beside the program"));
     folder.write("start_path", "\"kit beside the program\"\r\n");
