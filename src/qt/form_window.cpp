@@ -121,6 +121,9 @@ void FormWindow::follow_size() {
     known_width_ = form_.width;
     known_height_ = form_.height;
     syncing_ = true;
+    // What has just been hidden takes no more room.
+    if (body()->layout() != nullptr) body()->layout()->activate();
+    layout()->activate();
     resize(pixels(known_width_), pixels(known_height_) + menu_height());
     syncing_ = false;
 }

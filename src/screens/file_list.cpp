@@ -32,13 +32,6 @@ Colour line_colour(bool standard, bool processed) {
     return processed ? FrmFileList::processed_sample : palette(15);
 }
 
-// The window grows for its list.
-void bring_up_grid(FrmFileList& form) {
-    constexpr int width_with_list = 18000;  // twips
-    if (!form.FlexGrid2.visible) form.width = std::max(form.width, width_with_list);
-    form.FlexGrid2.visible = true;
-}
-
 void show_master(Context& context) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
@@ -58,8 +51,8 @@ void show_master(Context& context) {
     const bool opens = rs.ListMode == 1;
     grid.text = opens ? "Open file by double click on file name" : "";
     form.lblTitle.text = opens ? " Open selected file by double click on file name " : " Content of the master file ";
-    bring_up_grid(form);
     show_choice(form, false);
+    show_grid(form, true);
 }
 
 std::vector<NamedStandard> table_of_standards(const RunState& rs) {
@@ -107,7 +100,15 @@ void show_choice(FrmFileList& form, bool shown) {
                                                             &form.lblHint(2),
                                                             &form.lblHint(3)})
         control->visible = shown;
-    form.comboStd.visible = false;
+    form.comboStd.visible = form.lblStd.visible = false;
+}
+
+void show_grid(FrmFileList& form, bool shown) {
+    constexpr int width_with_list = 18000;  // twips
+    if (shown && !form.FlexGrid2.visible) form.width = std::max(form.width, width_with_list);
+    form.FlexGrid2.visible = form.pictKey.visible = shown;
+    // These tell how a new list is changed.
+    for (int hint = 1; hint <= form.lblHint.last(); ++hint) form.lblHint(hint).visible = shown && form.Dir1.visible;
 }
 
 void clear_list(Context& context) {
@@ -147,8 +148,8 @@ void show_new_list(Context& context, const std::vector<Marks>& marks) {
     grid.touch();
     grid.text.clear();
     form.lblTitle.text.clear();
-    bring_up_grid(form);
     show_choice(form, true);
+    show_grid(form, true);
 }
 
 void Update_Flex2(Context& context) {

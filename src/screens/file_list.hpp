@@ -26,8 +26,11 @@ std::vector<Marks> shown_marks(const Context& context);
 // An empty grid, and nothing in the new list. The controls of the choice stand as they are.
 void clear_list(Context& context);
 
-// Folder and order of a new list, and what changes its lines.
+// Folder and order of a new list.
 void show_choice(FrmFileList& form, bool shown);
+
+// The grid with what belongs to it; the window grows for it.
+void show_grid(FrmFileList& form, bool shown);
 
 // Colours of a line of the new list: standards stand out.
 void colour_new_line(Grid& grid, int line);

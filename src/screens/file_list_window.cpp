@@ -30,11 +30,12 @@ std::vector<std::string> drives() {
     return roots;
 }
 
-// While a new list is made, the strip of the batch that is in work on the U/Pb screen rests: it would save into the new
-// list. Closing the list window goes back to that batch.
+// While a new list is made, the strip of the batch that is in work on the U/Pb screen rests, and its drift plot closes:
+// they would save into the new list. Closing the list window goes back to that batch.
 void rest_running_batch(Context& context) {
-    if (context.forms.frm2_UP.shown && in_sequence(context.rs) && !context.rs.MasterName.empty())
-        context.forms.frm2_UP.pictSeq.enabled = false;
+    if (!context.forms.frm2_UP.shown || !in_sequence(context.rs) || context.rs.MasterName.empty()) return;
+    context.forms.frm2_UP.pictSeq.enabled = false;
+    context.shell.close(context.forms.frm_drift);
 }
 
 void go_back_to_running_batch(Context& context) {
@@ -47,12 +48,17 @@ void go_back_to_running_batch(Context& context) {
     strip.enabled = true;
 }
 
+void show_drive(FrmFileList& form) {
+    form.Drive1.show_item(std::filesystem::absolute(form.Dir1.text).root_path().string());
+}
+
 void show_files(Context& context, const std::string& folder, const std::vector<std::string>& files) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
     rest_running_batch(context);
     std::string path = native_path(folder);
     form.Dir1.text = form.lblPath.text = path;
+    show_drive(form);
     while (path.size() > 1 && file_name(path).empty()) path = folder_of(path);
     // So named, the master file stands before the data files of its folder.
     rs.MasterPath = join_path(path, "0-" + file_name(path) + ".msf");
@@ -164,15 +170,15 @@ void cmdSave(Context& context) {
 
 // For a new choice: the list goes, folder and ordering come back.
 void cmdBack(Context& context) {
-    constexpr int width_of_choice = 8700;  // twips
+    constexpr int width_of_choice = 7500;  // twips
     FrmFileList& form = context.forms.frm_FileList;
     rest_running_batch(context);
     context.rs.ListMode = 0;
     clear_list(context);
     form.lblTitle.text.clear();
     form.FlexGrid2.text.clear();
-    form.FlexGrid2.visible = false;
     show_choice(form, true);
+    show_grid(form, false);
     form.width = width_of_choice;
 }
 
@@ -201,7 +207,8 @@ void delete_line(Context& context, int line) {
 void ask_for_standard(FrmFileList& form, int line) {
     form.line_of_standard = line;
     form.comboStd.show_item(form.FlexGrid2.cell(line, 3).text);
-    form.comboStd.visible = true;
+    form.lblStd.text = "Standard of No. " + std::to_string(line) + ":";
+    form.comboStd.visible = form.lblStd.visible = true;
     form.set_focus(form.comboStd);
 }
 
@@ -219,7 +226,7 @@ void comboStd(FrmFileList& form) {
     grid.cell(form.line_of_standard, 2).text = "Std";
     colour_new_line(grid, form.line_of_standard);
     grid.touch();
-    form.comboStd.visible = false;
+    form.comboStd.visible = form.lblStd.visible = false;
 }
 
 // The file name is a head of its row; its double click and that on the number beside it are the same.
@@ -250,6 +257,7 @@ void open_file_list(Context& context) {
         form.comboStd.set_items(standards);
         form.Drive1.set_items(drives());
         if (form.Dir1.text.empty()) form.Dir1.text = native_path(rs.AppPath2.empty() ? rs.WorkPath : rs.AppPath2);
+        show_drive(form);
     }
     Update_Flex2(context);
     form.just_opened = true;

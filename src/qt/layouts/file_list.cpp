@@ -11,18 +11,16 @@ namespace kolvar {
 
 namespace {
 
-constexpr int choice_width = 450;  // logical pixels
-
 // What a colour of the lines stands for.
-void add_key(FormWindow& window, QHBoxLayout& row, Colour colour, const char* text) {
+void add_key(FormWindow& window, QHBoxLayout& keys, Colour colour, const char* text) {
     auto* mark = new QLabel(window.body());
     QPixmap swatch(24, 12);
     swatch.fill(qt_colour(colour));
     mark->setPixmap(swatch);
-    mark->setFrameStyle(QFrame::Panel | QFrame::Plain);
-    row.addWidget(mark);
-    row.addWidget(caption(window, text));
-    row.addSpacing(10);
+    mark->setFixedSize(24, 12);
+    keys.addWidget(mark);
+    keys.addWidget(caption(window, text));
+    keys.addSpacing(10);
 }
 
 QLabel* heading(FormWindow& window, const char* text) {
@@ -35,7 +33,7 @@ QLabel* heading(FormWindow& window, const char* text) {
 
 void lay_out_choice(FormWindow& window, const FrmFileList& f) {
     QWidget* const panel = window.of(f.pictChoice);
-    panel->setFixedWidth(choice_width);
+    panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
@@ -49,7 +47,7 @@ void lay_out_choice(FormWindow& window, const FrmFileList& f) {
     column->addWidget(window.of(f.Dir1), 1);
     wrapping(window, f.lblHint(0));
     column->addWidget(window.of(f.lblHint(0)));
-    value_field(window, f.lblPath);
+    value_field(window, f.lblPath).setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     column->addWidget(window.of(f.lblPath));
     auto* files = new QHBoxLayout;
     files->addWidget(caption(window, "Files"));
@@ -72,7 +70,7 @@ void lay_out_choice(FormWindow& window, const FrmFileList& f) {
     column->addWidget(window.of(f.cmdReOrd));
     column->addWidget(window.of(f.cmdSaveParam));
     for (const Button* control : {&f.cmdAccept, &f.cmdReOrd, &f.cmdSaveParam})
-        button(window, *control).set_line_width(choice_width - 40);
+        button(window, *control).set_line_width(400);
 }
 
 }  // namespace
@@ -87,15 +85,13 @@ void lay_out_file_list(FormWindow& window, FrmFileList& f) {
     grid->be_a_table();
     bold(window, f.lblTitle);
     auto* const standards = static_cast<QComboBox*>(window.of(f.comboStd));
-    standards->setPlaceholderText("Standard of this line");
     standards->setMinimumContentsLength(16);
 
     auto* table = new QVBoxLayout;
-    table->addLayout(row_of(window, {&f.lblTitle, &f.comboStd}, 0));
+    table->addLayout(row_of(window, {&f.lblTitle, &f.lblStd, &f.comboStd}, 0));
     table->addWidget(grid, 1);
-    auto* hints = new QHBoxLayout;
-    for (int hint = 1; hint <= f.lblHint.last(); ++hint) hints->addWidget(window.of(f.lblHint(hint)));
-    hints->addStretch(1);
+    QVBoxLayout* const hints = column_of(window, {&f.lblHint(1), &f.lblHint(2), &f.lblHint(3)});
+    hints->setSpacing(2);
     table->addLayout(hints);
 
     auto* sides = new QHBoxLayout;
@@ -104,13 +100,12 @@ void lay_out_file_list(FormWindow& window, FrmFileList& f) {
     sides->addLayout(table, 1);
     whole->addLayout(sides, 1);
 
-    auto* keys = new QHBoxLayout;
+    auto* keys = new QHBoxLayout(window.of(f.pictKey));
+    keys->setContentsMargins(0, 0, 0, 0);
     add_key(window, *keys, FrmFileList::open_standard, "standard");
     add_key(window, *keys, FrmFileList::processed_standard, "standard, processed");
     add_key(window, *keys, FrmFileList::processed_sample, "sample, processed");
-    keys->addStretch(1);
-    keys->addLayout(button_row(window, {}, {&f.cmdSave, &f.cmdBack, &f.cmdClose}));
-    whole->addLayout(keys);
+    whole->addLayout(button_row(window, {&f.pictKey}, {&f.cmdSave, &f.cmdBack, &f.cmdClose}));
 
     window.set_escape_buttons({&f.cmdClose});
     window.add_shortcut(f.cmdAccept, "Alt+A");

@@ -17,7 +17,7 @@ struct FrmFileList : Form {
         for (int hint = lblHint.first(); hint <= lblHint.last(); ++hint) lblHint(hint).text = hints[hint];
         optStringSearch(1).text = "In the middle of the file names, starting at character number of";
         optStringSearch(2).text = "At the end of the file names, before the extension";
-        comboStd.visible = false;
+        comboStd.visible = lblStd.visible = false;
     }
 
     // Folder and order of a new list.
@@ -41,6 +41,8 @@ struct FrmFileList : Form {
 
     Label lblTitle{*this, "lblTitle"};
     Grid FlexGrid2{*this, "FlexGrid2"};
+    Panel pictKey{*this, "pictKey"};  // what the colours of the lines stand for
+    Label lblStd{*this, "lblStd"};    // for which line comboStd asks
     ListBox comboStd{*this, "comboStd"};
     Button cmdSave{*this, "cmdSave", "Save master file"};
     Button cmdBack{*this, "cmdBack", "Back"};
