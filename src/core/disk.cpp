@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
 #include "core/fault.hpp"
 #include "core/files.hpp"
@@ -59,7 +60,7 @@ bool write_all(int fd, std::string_view bytes) {
     return true;
 }
 
-// Waits a moment for another program that appends to the same file.
+// Waits a moment for another program that writes the same file.
 bool locked(int fd) {
     constexpr int attempts = 200;
     constexpr useconds_t pause = 10000;
@@ -130,13 +131,21 @@ void replace_file(Platform& os, const std::string& path, std::string_view bytes)
     if (exists && ::access(name.c_str(), W_OK) != 0) fail(FaultKind::file_unwritable, path);
 
     const std::string part = name + ".part";
-    Handle file(part, O_WRONLY | O_CREAT | O_TRUNC);
-    if (!file.is_open()) fail(write_fault(), path);
+    std::optional<Handle> opened;
+    struct stat mine {
+    }, named{};
+    // Two programs that save at once take turns; the one that waited must not write into what the other has renamed.
+    do {
+        opened.emplace(part, O_WRONLY | O_CREAT);
+        if (!opened->is_open() || !locked(opened->fd()) || ::fstat(opened->fd(), &mine) != 0) fail(write_fault(), path);
+    } while (::stat(part.c_str(), &named) != 0 || named.st_ino != mine.st_ino);
+    Handle& file = *opened;
+    if (::ftruncate(file.fd(), 0) != 0) fail(write_fault(), path);
     const std::size_t room = os.room_on_disk(bytes.size());
     if (!write_all(file.fd(), bytes.substr(0, room))) fail(write_fault(), path);
     if (room < bytes.size()) fail(FaultKind::disk_full, path);
     if (exists && ::fchmod(file.fd(), former.st_mode & 07777U) != 0) fail(FaultKind::file_unwritable, path);
-    if (::fsync(file.fd()) != 0 || !file.close()) fail(write_fault(), path);
+    if (::fsync(file.fd()) != 0) fail(write_fault(), path);
     if (std::rename(part.c_str(), name.c_str()) != 0) fail(write_fault(), path);
 }
 

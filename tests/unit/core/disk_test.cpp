@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -202,6 +203,48 @@ TEST_F(Disk, AFileThatAnotherProgramKeepsLockedIsReportedAndLeftAlone) {
     ::close(fd);
     append_file(os, folder.path("0_quick"), "two\r\n");
     EXPECT_EQ(folder.read("0_quick"), "one\r\ntwo\r\n");
+}
+
+// Two programs on one master file: whoever looks finds one of the two files whole, at any moment.
+TEST_F(Disk, ProgramsThatReplaceOneFileAtOnceNeverMixTheirBytes) {
+    constexpr int writers = 3;
+    constexpr int times = 150;
+    folder.write("0-a.msf", std::string(200000, 'a'));
+    std::vector<std::thread> threads;
+    std::atomic<int> running = writers;
+    std::atomic<int> refused = 0;
+    for (int k = 0; k < writers; ++k)
+        threads.emplace_back([&, k] {
+            const std::string bytes(static_cast<std::size_t>(200000 + 1000 * k), static_cast<char>('a' + k));
+            test::ScriptedPlatform own;
+            for (int n = 0; n < times; ++n)
+                guarded([&] { replace_file(own, folder.path("0-a.msf"), bytes); }, [&](const Fault&) { ++refused; });
+            --running;
+        });
+    int looks = 0;
+    while (running > 0 || looks == 0) {
+        const std::string bytes = folder.read("0-a.msf");
+        ASSERT_FALSE(bytes.empty());
+        ASSERT_EQ(bytes.find_first_not_of(bytes.front()), std::string::npos);
+        ASSERT_EQ(bytes.size(), static_cast<std::size_t>(200000 + 1000 * (bytes.front() - 'a')));
+        ++looks;
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(refused, 0);
+    EXPECT_FALSE(fs::exists(folder.path("0-a.msf.part")));
+}
+
+TEST_F(Disk, AFileThatAnotherProgramIsReplacingIsReportedAndLeftAlone) {
+    folder.write("0-a.msf", "former");
+    folder.write("0-a.msf.part", "half of the oth");
+    const int fd = ::open(folder.path("0-a.msf.part").c_str(), O_RDONLY);
+    ASSERT_EQ(::flock(fd, LOCK_EX), 0);
+    EXPECT_EQ(fault_of([&] { replace_file(os, folder.path("0-a.msf"), "new"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(folder.read("0-a.msf"), "former");
+    EXPECT_EQ(folder.read("0-a.msf.part"), "half of the oth");
+    ::close(fd);
+    replace_file(os, folder.path("0-a.msf"), "new");
+    EXPECT_EQ(folder.read("0-a.msf"), "new");
 }
 
 TEST_F(Disk, ReadingAndWritingNeverChangeTheCurrentFolder) {
