@@ -16,8 +16,12 @@ constexpr int signals_width = 3150;  // analytes, mean cps, margins
 constexpr int signals_top = 1320;
 constexpr int sequence_left = 3735;
 constexpr int sequence_top = 720;
-constexpr int sequence_height = 1230;
+constexpr int sequence_height = 1170;
+constexpr int folded_height = 1770;      // of the strip whose buttons have captions of two lines
+constexpr int room_for_buttons = 18300;  // width of a window where they need one
 constexpr int interpolation_height = 690;
+constexpr int folded_interpolation_height = 1080;
+constexpr int above_plots = 270;          // room for the mark of the signal
 constexpr int sequence_right = 180;       // between the strip of a sequence and the edge of the window
 constexpr int interpolation_left = 7215;  // within the strip
 constexpr int scale_labels = 750;
@@ -44,11 +48,12 @@ void place_plot(Picture& plot, int left, int top, int width, int height) {
 void lay_out_up_window(Context& context) {
     Frm2UP& form = context.forms.frm2_UP;
     const int results_top = form.height - results_height;
-    place(form.pictSeq, sequence_left, sequence_top, std::max(form.width - sequence_right - sequence_left, 300),
-          sequence_height);
+    const bool folded = form.width < room_for_buttons;
+    const int strip = folded ? folded_height : sequence_height;
+    place(form.pictSeq, sequence_left, sequence_top, std::max(form.width - sequence_right - sequence_left, 300), strip);
     place(form.cmdInterpolation, interpolation_left, 30, std::max(form.pictSeq.width - interpolation_left - 60, 300),
-          interpolation_height);
-    const int head = form.pictSeq.visible ? sequence_top + sequence_height + 60 : plain_head;
+          folded ? folded_interpolation_height : interpolation_height);
+    const int head = form.pictSeq.visible ? sequence_top + strip + above_plots : plain_head;
     const int left = margin + signals_width + scale_labels;
     const int width = std::max(form.width - left - bar_width - strip_width - 2 * margin, 300);
     const int height = std::max((results_top - head - 2 * between_plots) / 2, 300);

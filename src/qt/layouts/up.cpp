@@ -216,7 +216,10 @@ void lay_out_sequence(FormWindow& window, const Frm2UP& f) {
     whole->setContentsMargins(4, 2, 4, 2);
     whole->setSpacing(2);
     bold(window, f.lblPos);
-    auto* position = row_of(window, {&f.lblSeqTitle, &f.lblPos});
+    auto* position = new QHBoxLayout;
+    position->addWidget(window.of(f.lblSeqTitle));
+    position->addSpacing(12);
+    position->addWidget(window.of(f.lblPos));
     position->addStretch(1);
     whole->addLayout(position);
     auto* counters = new QHBoxLayout;
@@ -229,11 +232,24 @@ void lay_out_sequence(FormWindow& window, const Frm2UP& f) {
     }
     counters->addStretch(1);
     whole->addLayout(counters);
-    whole->addStretch(1);
+    whole->addStretch();
     auto* buttons = row_of(window, {&f.cmdOpenPrev, &f.cmdOpenNext, &f.cmdSaveAnd(0), &f.cmdSaveAnd(1), &f.cmdCopyMas,
                                     &f.cmdOpenSeq, &f.cmdShowTab, &f.cmdPlot});
     buttons->setSpacing(4);
+    for (const Button* small : {&f.cmdOpenSeq, &f.cmdShowTab, &f.cmdPlot}) {
+        constexpr int around = 26;
+        QWidget* const shown = window.of(*small);
+        shown->setMaximumWidth(shown->fontMetrics().horizontalAdvance(QString::fromStdString(small->text)) + around);
+    }
     buttons->addStretch(1);
+    // In a narrow window their captions take two lines.
+    for (const Control* button :
+         std::initializer_list<const Control*>{&f.cmdOpenPrev, &f.cmdOpenNext, &f.cmdSaveAnd(0), &f.cmdSaveAnd(1),
+                                               &f.cmdCopyMas, &f.cmdOpenSeq, &f.cmdShowTab, &f.cmdPlot}) {
+        constexpr int two_lines = 40;
+        window.of(*button)->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+        window.of(*button)->setMaximumHeight(two_lines);
+    }
     whole->addLayout(buttons);
 }
 

@@ -13,7 +13,7 @@ protected:
         rs().setFormer_Sel = 0;
         rs().setSTDabbr = "STD";
         program->shell().open(chooser());
-        choose(chooser(), "Dir1", folder.path("day"));
+        ProgramOnKit::choose(chooser(), "Dir1", folder.path("day"));
     }
 };
 
