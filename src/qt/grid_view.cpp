@@ -248,6 +248,7 @@ void GridView::fit_widths() {
         }
         return fontMetrics().horizontalAdvance(shown(*widest_text)) + 14;
     };
+    if (grid_.rows == 0 || grid_.cols == 0) return;
     fitting_ = true;
     verticalHeader()->setFixedWidth(std::max(pixels(1800), room(0, longest_name)));
     drawn_.resize(static_cast<std::size_t>(model_->columnCount()));
