@@ -256,6 +256,38 @@ TEST_F(LeaveTime, SelectionThatBeginsAtTheFirstSliceReadsItUncorrected) {
     EXPECT_EQ(forms().frm3_Matrix.FlexGrid1.cell(1, 2).text, "0");  // 10 less the blank of 10
 }
 
+TEST_F(LeaveTime, ADoubleClickBesideThePlotsShowsAveragesOnceAllLimitsStand) {
+    write_run(10);
+    go();
+    const auto double_click = [&](const std::string& place) {
+        program->dispatch(event_of(EventKind::dblclick, form(), place));
+        return shown_windows();
+    };
+    const Names time_alone{"frm2_Time"};
+    rs().nData(1) = rs().nData(3) = 77;
+    EXPECT_EQ(double_click("pictRightSide"), time_alone);  // nothing is marked
+    EXPECT_EQ(rs().nData(1), 77);
+    mark(left, 0, 13);
+    EXPECT_EQ(double_click(""), time_alone);
+    EXPECT_EQ(rs().nData(1), 77);
+    mark(right, 0, 16);
+    // Without a blank the data are counted, and no more.
+    rs().ConcMean(3) = 5.0;
+    forget_boxes();
+    EXPECT_EQ(double_click("pictRightSide"), time_alone);
+    EXPECT_EQ(rs().nData(1), 4);
+    EXPECT_EQ(rs().nData(3), 4);
+    EXPECT_EQ(rs().ConcMean(3), Cell(5.0));
+    EXPECT_EQ(box_texts(), Names{});
+    mark(left, 1, 2);
+    mark(right, 1, 12);
+    for (const char* place : {"", "pictRightSide"}) {
+        EXPECT_EQ(double_click(place), (Names{"frm2_Time", "frm_AverConc"})) << place;
+        EXPECT_EQ(rs().ConcMean(3), Cell(Mark::empty)) << place;  // the preview has used them up
+        program->dispatch(event_of(EventKind::close, forms().frm_AverConc, ""));
+    }
+}
+
 TEST_F(LeaveTime, FormerSelectionIsShownBelowThePlotOfTheNextFile) {
     write_run(10);
     go();
