@@ -246,6 +246,7 @@ void open_file_list(Context& context) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
     const Running running(rs, "open_file_list");
+    if (form.width == 0) form.width = 18000, form.height = 10500;  // room for the table on a small screen
     if (rs.ListMode == 0 || rs.ListMode == 1) {
         form.Combo1.set_items(counted(25));
         form.Combo2.set_items(counted(5));
