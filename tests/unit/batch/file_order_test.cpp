@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-
-
 namespace kolvar::test {
 namespace {
 
