@@ -7,13 +7,15 @@
 #include <fstream>
 #include <map>
 #include <memory>
-#include <random>
 #include <set>
 #include <sstream>
+#include <tuple>
 
 #include "app/scenario_runner.hpp"
 #include "core/inspector.hpp"
+#include "core/numbers.hpp"
 #include "qt/desktop.hpp"
+#include "support/random_user.hpp"
 #include "support/test_support.hpp"
 
 namespace kolvar::scenario {
@@ -21,64 +23,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The same numbers on every machine; the distributions of the standard library are not.
-class Dice {
-public:
-    explicit Dice(unsigned seed) : source_(seed) {}
-    int below(int n) { return static_cast<int>(source_() % static_cast<unsigned>(n)); }
-    bool one_in(int n) { return below(n) == 0; }
-    template <class T>
-    const T& one_of(const std::vector<T>& choices) {
-        return choices[static_cast<std::size_t>(below(static_cast<int>(choices.size())))];
-    }
-
-private:
-    std::mt19937 source_;
-};
-
-// Answers as the dice fall.
-class RandomPlatform : public test::ScriptedPlatform {
-public:
-    RandomPlatform(Dice& dice, std::string folder, std::vector<std::string> data)
-        : dice_(dice), folder_(std::move(folder)), data_(std::move(data)) {}
-    bool ask(const std::string& text, const std::string& title) override {
-        test::ScriptedPlatform::ask(text, title);
-        return dice_.one_in(3);
-    }
-    std::string open_file(const FileDialog& dialog) override {
-        if (dice_.one_in(4)) return {};
-        if (dialog.filter.find("*.set") != std::string::npos && !saved_settings_.empty() && dice_.one_in(2))
-            return saved_settings_;
-        const auto wants = [&](const char* ending) { return dialog.filter.find(ending) != std::string::npos; };
-        const char* name = wants("*.set")   ? "Kolvar-default-h.set"
-                           : wants("*.stc") ? "nist-srm-610.stc"
-                           : wants("*.stm") ? "nbs-610-2004-12-19-1.stm"
-                           : wants("*.blk") ? "2004-12-19-a.blk"
-                           : wants("*.dwe") ? "quadrupole.dwe"
-                           : wants("*.def") ? "KolvAge-default-b01.def"
-                                            : dice_.one_of(data_).c_str();
-        return folder_ + "/start-kit/" + name;
-    }
-    std::optional<std::string> save_file(const FileDialog& dialog) override {
-        if (dice_.one_in(3)) return std::nullopt;
-        const std::string path = folder_ + "/" + fs::path(dialog.name).filename().string();
-        if (path.ends_with(".set")) saved_settings_ = path;
-        return path;
-    }
-    std::string clipboard() override {
-        return clip = dice_.one_of<std::string>({"", "no table", "Al27\tSi29\r\n1\t2\r\n", copied_table()});
-    }
-
-private:
-    [[nodiscard]] std::string copied_table() const {
-        return test::bytes_of(folder_ + "/start-kit/Example-Copy-Paste.xls");
-    }
-
-    Dice& dice_;
-    std::string folder_;
-    std::vector<std::string> data_;
-    std::string saved_settings_;
-};
+using test::Dice;
+using test::RandomPlatform;
 
 // The windows beside the steps of the internal-standard path, and in those before them what opens them.
 const std::set<std::string> side_windows{"frm_SetIS", "frm_Period", "frm_InputForm",
@@ -99,92 +45,15 @@ bool ends_side_window(const Control& control) {
     return false;
 }
 
-bool leads_out(const Control& control) {
-    if (control.name == "mnuFile") return control.index == 3;
-    for (const char* name : {"cmdExit", "cmdCancel", "cmdExitUP", "cmdExitFLEX"})
-        if (control.name == name && control.form.step) return true;
-    return control.name == "cmdClose" && control.form.name == "frm1_Settings";
-}
-
-// Something that a user can do to this control; false when there is nothing.
-bool event_of(const Control& control, Dice& dice, Event& event) {
-    event.window = control.form.name;
-    event.control = control.name;
-    event.index = control.index;
-    switch (control.kind) {
-        case ControlKind::button:
-        case ControlKind::check:
-        case ControlKind::option:
-        case ControlKind::menu_entry:
-            event.kind = EventKind::click;
-            return !leads_out(control);
-        case ControlKind::entry: {
-            if (control.locked) return false;
-            // On the steps these complain when they lose the focus, and a walk has none.
-            const bool beside = side_windows.contains(control.form.name);
-            for (const char* complaining : {"txtSD", "txtMass2", "txtMass3", "txtStd", "txtStdEr"})
-                if (control.name == complaining && !beside) return false;
-            if (control.name.starts_with("txtMass")) {
-                event.kind = EventKind::type;
-                event.text = dice.one_of<std::string>({"5", "20", "87.5", "120", "300", "300.5", "abc", ""});
-                return true;
-            }
-            std::vector<std::string> texts{"20", "3", "0", "abc", "153319", "2.5", ""};
-            if (control.form.name == "frm_InputForm") texts = {"1", "2", "3", "4", "7", "0.5", "two"};
-            if (control.name == "txtZizzRange") texts = {"0", "1", "2.5", "3", "few"};  // a wide band takes its time
-            // In an entry of several lines Enter begins a new one.
-            event.kind = !control.multiline && dice.one_in(3) ? EventKind::enter : EventKind::type;
-            event.text = event.kind == EventKind::type ? dice.one_of(texts) : "";
-            return true;
-        }
-        case ControlKind::list:
-            if (control.items.empty()) return false;
-            if (control.editable && dice.one_in(3)) {
-                event.kind = EventKind::type;
-                event.text = dice.one_of<std::string>({"Al27", "Xx99", ""});
-                return true;
-            }
-            event.kind = EventKind::choose;
-            event.value = dice.below(static_cast<int>(control.items.size()));
-            return true;
-        case ControlKind::label:
-            event.kind = EventKind::click;
-            return control.form.name == "frm_Period" && control.name != "lblNumber";
-        case ControlKind::scroll:
-            event.kind = EventKind::scroll;
-            event.value = control.minimum + dice.below(control.maximum - control.minimum + 1);
-            return true;
-        case ControlKind::picture:
-            if (control.name == "pict3" || (control.form.name != "frm2_Time" && control.form.name != "frm2_UP"))
-                return false;
-            event.kind = EventKind::press;
-            event.button = 1 + dice.below(2);
-            event.shift = dice.one_in(2) ? 1 : 0;
-            event.x = dice.below(control.width);
-            event.y = dice.below(control.height);
-            return true;
-        case ControlKind::grid: {
-            const auto& grid = static_cast<const Grid&>(control);
-            if (grid.rows == 0 || grid.cols == 0) return false;
-            event.kind = EventKind::cell_click;
-            event.row = dice.below(grid.rows);
-            event.col = dice.below(grid.cols);
-            return true;
-        }
-        default:
-            return false;
-    }
-}
-
 // What a walk has acted on, by window and control.
 using Touched = std::map<std::string, std::set<std::string>>;
 
 // One step of the walk: an event on the window on top. The ways on are taken more often than their share of buttons. In
 // a window beside the steps what was not yet acted on comes first, and the ways out are rare.
-void step(Program& program, Dice& dice, Touched& touched, bool aside) {
+void step(Program& program, Dice& dice, const std::vector<std::string>& folders, Touched& touched, bool aside) {
     Form* const form = program.shell().active();
     ASSERT_NE(form, nullptr);
-    const bool beside = side_windows.contains(form->name);
+    const bool beside = test::beside_the_steps(*form);
     Event event;
     const auto acted_on = [&](const Control& control) { return touched[form->name].contains(control.address()); };
     std::vector<const Control*> usable, fresh, doors, fresh_doors;
@@ -209,7 +78,7 @@ void step(Program& program, Dice& dice, Touched& touched, bool aside) {
     if (aside && beside && !fresh.empty() && !dice.one_in(4)) usable = fresh;
     const Control& control = *dice.one_of(usable);
     touched[form->name].insert(control.address());
-    if (!event_of(control, dice, event)) return;
+    if (!test::random_event(control, dice, folders, event)) return;
     program.dispatch(event);
     if (event.kind == EventKind::press) {
         event.kind = EventKind::release;
@@ -275,6 +144,7 @@ struct Road {
     unsigned seed;
     int path = 0;
     bool aside = false;  // looks for the windows beside the steps
+    int clicks = aside ? 3000 : 800;
 };
 std::ostream& operator<<(std::ostream& out, const Road& road) { return out << road.mode << ' ' << road.seed; }
 
@@ -292,11 +162,122 @@ void expect_all_acted_on(Program& program, std::map<std::string, int>& visits, T
         for (const Control* control : program.forms().find(window)->controls) {
             Dice dice(1);
             Event event;
-            if (window != "frmHelp1" && event_of(*control, dice, event)) {
+            if (window != "frmHelp1" && test::random_event(*control, dice, {}, event)) {
                 EXPECT_TRUE(touched[window].contains(control->address())) << window << "." << control->address();
             }
         }
     }
+}
+
+void click(Program& program, const std::string& window, const std::string& control, int index = -1) {
+    Event event;
+    event.window = window;
+    event.control = control;
+    event.index = index;
+    program.dispatch(event);
+}
+
+// Back to the first window, by the ways that a user has.
+void go_back(Program& program) {
+    const auto way_back = [](const Form& form) -> std::string {
+        if (form.name == "frm2_Time" || form.name == "frm2_UP" || form.name == "frm3_Matrix") return "cmdBack";
+        return form.name == "frm4_Output" ? "cmdBackRej" : "";
+    };
+    for (int windows = 0; windows < 20 && program.shell().active()->name != "frm1_Settings"; ++windows) {
+        const Form& form = *program.shell().active();
+        if (form.step) {
+            click(program, form.name, way_back(form));
+        } else {
+            Event event;
+            event.window = form.name;
+            event.kind = EventKind::close;
+            program.dispatch(event);
+        }
+    }
+    ASSERT_EQ(program.shell().active()->name, "frm1_Settings");
+}
+
+// What the walk has left behind stops nobody: with the files of the kit the road can be gone to its end. From the third
+// path it is that of the second, to which the default file of the kit leads.
+void expect_alive(Program& program, RandomPlatform& os, int path) {
+    go_back(program);
+    os.boxes.clear();
+    const RunState& rs = program.state();
+    const Frm1Settings& first = program.forms().frm1_Settings;
+    const auto start_click = [&](const Control& control) {
+        if (control.reachable() && control.usable()) click(program, "frm1_Settings", control.name, control.index);
+    };
+    const auto open = [&](const std::string& name, const std::string& menu, int entry) {
+        os.opens = {os.kit() + "/" + name};
+        click(program, "frm1_Settings", menu, entry);
+        EXPECT_TRUE(os.opens.empty()) << name;
+    };
+    const auto type = [&](const Control& control, const std::string& text) {
+        Event event;
+        event.kind = EventKind::type;
+        event.window = "frm1_Settings";
+        event.control = control.name;
+        event.text = text;
+        if (control.reachable() && control.usable()) program.dispatch(event);
+    };
+    const std::string window = path == 0 ? "frm2_Time" : "frm2_UP";
+    if (path == 0) {
+        open("Kolvar-default-h.set", "mnuSettings", 0);
+        open("example-1.csv", "mnuFile", 0);
+        open("nist-srm-610.stc", "mnuFile", 1);
+        open("nbs-610-2004-12-19-1.stm", "mnuFile", 2);
+        start_click(first.cmdBack);
+        for (const Control* control :
+             std::initializer_list<const Control*>{&first.optData, &first.optBfromData, &first.optDweUni})
+            start_click(*control);
+        type(first.txtDwell, "20");
+        start_click(first.cmdOK);
+        Event standard;
+        standard.kind = EventKind::choose;
+        standard.window = "frm1_Settings";
+        standard.text = "Si29";
+        for (const ListBox* list : {&first.comboIso, &first.comboIso2, &first.comboIso3}) {
+            standard.control = list->name;
+            if (list->reachable()) program.dispatch(standard);
+        }
+        for (const Entry* entry :
+             {&first.txtISppm, &first.txtISppm2, &first.txtISppm3, &first.txtISerr, &first.txtISerr2, &first.txtISerr3})
+            type(*entry, "153319");
+        start_click(first.cmdNext);
+        // The import profile may have been changed so that the column of the time counts as one more isotope.
+        if (rs.MissSTC == "Time [sec],  ") click(program, "frm_MissingIso", "cmdCont");
+    } else {
+        open("KolvAge-default-b01.def", "mnuDefault", 0);
+        open(data_of(1).front(), "mnuFile", 0);
+    }
+    EXPECT_EQ(program.shell().active()->name, window) << rs.MissSTC << rs.MissSTM << rs.MissBLK;
+    // Twice: the first press may be wanted for the start of the laser.
+    Event mark;
+    mark.window = window;
+    mark.control = "pict1";
+    const double slice = quotient(program.forms().find(window)->find("pict1")->width, rs.nSlices);
+    for (const auto& [button, shift, at] : {std::tuple{1, 1, 5}, {2, 1, 20}, {2, 0, 90}, {1, 0, 60}, {2, 0, 90}}) {
+        for (int time = 1; time <= 2; ++time) {
+            mark.kind = EventKind::press;
+            mark.button = button;
+            mark.shift = shift;
+            mark.x = slice * at;
+            program.dispatch(mark);
+            mark.kind = EventKind::release;
+            program.dispatch(mark);
+        }
+    }
+    EXPECT_EQ(rs.BlkLow, Limit(5));
+    EXPECT_EQ(rs.BlkUpp, Limit(20));
+    EXPECT_EQ(rs.SelLow, Limit(60));
+    EXPECT_EQ(rs.SelUpp, Limit(90));
+    if (path == 0) {
+        os.yes_or_no = {false};
+        click(program, "frm2_Time", "cmdNext");
+        click(program, "frm3_Matrix", "cmdNext");
+        EXPECT_EQ(program.shell().active()->name, "frm4_Output");
+    }
+    for (const auto& box : os.boxes) EXPECT_NE(box.kind, "fault") << box.text;
 }
 
 class RandomWalk : public ::testing::TestWithParam<Road> {};
@@ -310,15 +291,14 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
     RandomPlatform os(dice, work.string(), data_of(path));
     Program program(os, (work / "start-kit").string());
     program.start(path);
-    Event mode;
-    mode.window = "frm1_Settings";
-    mode.control = path == 0 ? GetParam().mode : path == 1 ? "cmdOK1" : "Command9";
-    program.dispatch(mode);
+    std::vector<std::string> way_in{path == 0 ? GetParam().mode : path == 1 ? "cmdOK1" : "Command9"};
+    if (GetParam().mode == "batch") way_in = {"cmdSequential", "cmdCreate"};
+    for (const std::string& control : way_in) click(program, "frm1_Settings", control);
     std::map<std::string, int> visits;
     Touched touched;
     const bool aside = GetParam().aside;
-    for (int i = 0; i < (aside ? 3000 : 800) && !program.ended(); ++i) {
-        step(program, dice, touched, aside);
+    for (int i = 0; i < GetParam().clicks && !program.ended(); ++i) {
+        step(program, dice, {os.kit()}, touched, aside);
         if (program.shell().active() != nullptr) ++visits[program.shell().active()->name];
         if (HasFatalFailure()) return;
     }
@@ -330,6 +310,11 @@ TEST_P(RandomWalk, ItsJournalPlaysToTheSameEnd) {
     } else {
         EXPECT_GT(visits[path == 0 ? "frm2_Time" : "frm2_UP"], 0);
     }
+    if (GetParam().mode == "batch") {
+        EXPECT_GT(visits["frm_FileList"], 0);
+        EXPECT_TRUE(fs::exists(work / "start-kit/0-start-kit.msf"));
+    }
+    expect_alive(program, os, path);
     const std::map<std::string, std::string> files = files_in(work);
 
     lay_out_kit(work);
@@ -361,7 +346,12 @@ INSTANTIATE_TEST_SUITE_P(Roads, RandomWalk,
                                            Road{"optData", 11, 0, true}, Road{"optData", 12, 0, true},
                                            Road{"optData", 13, 0, true}, Road{"optCreatSTM", 14, 0, true},
                                            Road{"optCreatBLK", 15, 0, true}, Road{"uranium_lead", 16, 1, true},
-                                           Road{"uranium_lead", 17, 1, true}, Road{"solution", 18, 3, true}),
+                                           Road{"uranium_lead", 17, 1, true}, Road{"solution", 18, 3, true},
+                                           // Ten thousand on each road.
+                                           Road{"optData", 21, 0, false, 10000},
+                                           Road{"uranium_lead", 22, 1, false, 10000},
+                                           Road{"solution", 23, 3, false, 10000}, Road{"batch", 24, 1, false, 10000},
+                                           Road{"batch", 25, 1, false, 10000}),
                          [](const auto& walk) { return walk.param.mode + std::to_string(walk.param.seed); });
 
 }  // namespace
