@@ -51,6 +51,7 @@ bool ScriptedPlatform::open_document(const std::string& path) {
 }
 
 std::size_t ScriptedPlatform::room_on_disk(std::size_t wanted) {
+    if (!refused_rename.empty()) std::filesystem::remove(refused_rename + ".part");
     const std::size_t taken = wanted < disk_room ? wanted : disk_room;
     disk_room -= taken;
     return taken;

@@ -26,6 +26,7 @@ public:
     std::string clip;
     DateTime clock{2009, 1, 7, 14, 3, 22};
     std::size_t disk_room = static_cast<std::size_t>(-1);
+    std::string refused_rename;                   // a file whose new bytes vanish before they take its place
     std::vector<bool> wait_cursors;               // shown, then gone
     std::vector<std::pair<int, int>> progresses;  // done of all
 
