@@ -36,10 +36,9 @@ void calculate_u235(RunState& rs) {
 // Takes the Hg of the gas off the raw Pb204, the same for every slice of the file. The blank of Pb204 itself is not
 // subtracted: it is the Hg.
 void correct_pb204(RunState& rs, Label& warning) {
-    const std::optional<double> hg = rs.BlkUpp.val() <= rs.nSlices ? hg204_of_blank(rs) : std::nullopt;
     for (int t = rs.BlkUpp.val(); t <= rs.nSlices; ++t) {
         rs.Sig204Net(t) = rs.Sig2(rs.ColPb204, t);
-        if (hg) rs.Sig2(rs.ColPb204, t) = rs.Sig(rs.ColPb204, t) - *hg;
+        if (const auto hg = hg204_of_blank(rs)) rs.Sig2(rs.ColPb204, t) = rs.Sig(rs.ColPb204, t) - *hg;
     }
     double sum = 0;
     for (int t = rs.SelLow.val(); t <= rs.SelUpp.val(); ++t) sum += rs.Sig2(rs.ColPb204, t);
@@ -165,29 +164,33 @@ struct SignalLabels {
     int column;
     Label &mean, &margin;
     bool shown;  // the column takes part
-    bool has_margin;
 };
 
 // Mean signals and how many times they stand above the detection limit of the blank.
 void show_signals(const RunState& rs, Frm2UP& form) {
     const auto optional = [](int column) { return column != 0; };
-    const bool hg = rs.Method == 1 ? rs.HgMass != 0 : optional(rs.ColHg);
+    const bool hg = rs.Method != 1 || rs.HgMass != 0;
     const std::array<SignalLabels, 8> signals{{
-        {rs.ColU238, form.lbl238, form.lbl238LoD, true, true},
-        {rs.ColU235, form.lbl235, form.lbl235LoD, optional(rs.ColU235), optional(rs.ColU235)},
-        {rs.ColTh232, form.lbl232, form.lbl232LoD, optional(rs.ColTh232), optional(rs.ColTh232)},
-        {rs.ColPb208, form.lbl208, form.lbl208LoD, true, true},
-        {rs.ColPb207, form.lbl207, form.lbl207LoD, true, true},
-        {rs.ColPb206, form.lbl206, form.lbl206LoD, true, true},
-        {rs.ColPb204, form.lbl204, form.lbl204LoD, optional(rs.ColPb204), optional(rs.ColPb204)},
-        {rs.ColHg, form.lblAver(8), form.lbl20xLoD, hg, hg},
+        {rs.ColU238, form.lbl238, form.lbl238LoD, true},
+        {rs.ColU235, form.lbl235, form.lbl235LoD, optional(rs.ColU235)},
+        {rs.ColTh232, form.lbl232, form.lbl232LoD, optional(rs.ColTh232)},
+        {rs.ColPb208, form.lbl208, form.lbl208LoD, true},
+        {rs.ColPb207, form.lbl207, form.lbl207LoD, true},
+        {rs.ColPb206, form.lbl206, form.lbl206LoD, true},
+        {rs.ColPb204, form.lbl204, form.lbl204LoD, optional(rs.ColPb204)},
+        {rs.ColHg, form.lblAver(8), form.lbl20xLoD, hg},
     }};
-    for (const SignalLabels& signal : signals)
-        signal.mean.text = signal.shown ? Format(rs.CpsMean(signal.column), "###,###,###") : "n. d.";
-    // Pt195 that was not measured is no missing mercury: nothing is shown of it.
-    if (rs.Method != 1 && rs.ColHg == 0) form.lblAver(8).text = form.lbl20xLoD.text = "";
+    // Of an analyte that was not measured and is not called missing, as on the FLEX path, nothing is shown.
     for (const SignalLabels& signal : signals) {
-        if (!signal.has_margin) continue;
+        const std::string cps = signal.column == 0 ? "" : Format(rs.CpsMean(signal.column), "###,###,###");
+        signal.mean.text = signal.shown ? cps : "n. d.";
+    }
+    for (const SignalLabels& signal : signals) {
+        if (!signal.shown) continue;
+        if (signal.column == 0) {
+            signal.margin.text.clear();
+            continue;
+        }
         const double limit = rs.BlkMean(signal.column).number() + 3 * rs.BlkSD(signal.column).number();
         const std::string margin = decimal(round_half_even(quotient(rs.CpsMean(signal.column), limit)));
         signal.margin.text = Val(margin) > 100 ? ">100" : margin;

@@ -1,6 +1,7 @@
 #include "upb/outliers.hpp"
 
 #include <cmath>
+#include <optional>
 
 #include "core/numbers.hpp"
 #include "upb/ratio_fields.hpp"
@@ -31,13 +32,14 @@ std::vector<Outlier> Out_Liers(RunState& rs, Frm2UP& form) {
     rs.SelNGood = rs.SelN.val();
     if (!form.chkShowSD.on()) return {};
 
-    const double times = Val(form.txtSD.text);
+    std::optional<double> times;  // read when the first ratio is tested
     std::vector<Outlier> found;
     for (int t = low; t <= upp; ++t) {
         for (int k = 0; k < ratio_count; ++k) {
             const RatioFields& ratio = ratio_fields()[static_cast<std::size_t>(k)];
             if (!form.ratio_row(k).box.on() || (rs.*ratio.tested).val() != 1) continue;
-            if (!is_outlier(rs, ratio, t, times)) continue;
+            if (!times) times = Val(form.txtSD.text);
+            if (!is_outlier(rs, ratio, t, *times)) continue;
             rs.RejFlag(t) += 1;
             found.push_back({k, t});
         }

@@ -16,7 +16,8 @@ struct Outlier {
 // and leaves RejFlag set while rejection is on. While slices are rejected nothing is tested again.
 std::vector<Outlier> Out_Liers(RunState& rs, Frm2UP& form);
 
-// Puts all slices back into the statistics; the button offers the rejection again.
+// Puts all slices of the selection back into the statistics; the button offers the rejection again. Of a slice outside,
+// which the selection held when it was rejected, the flag stays until a search for outliers comes over it.
 void restore_rejected(RunState& rs, Frm2UP& form);
 
 // Makes the button usable. With it come back the controls around it that a new file without intervals had hidden, the

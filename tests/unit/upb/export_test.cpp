@@ -180,6 +180,14 @@ TEST_F(Export, ASingleCountedSliceHasNoStandardError) {
     EXPECT_FALSE(rs.NoHead);
 }
 
+TEST_F(Export, TheCursorWaitsAlsoWhereTheExportEndsInAFault) {
+    copied(true);
+    EXPECT_EQ(os.wait_cursors, (std::vector<bool>{true, false}));
+    rs.SelNGood = 1;
+    EXPECT_THROW(copied(true), Fault);
+    EXPECT_EQ(os.wait_cursors, (std::vector<bool>{true, false, true, false}));
+}
+
 // Without U235 and Th232 column 0 and the ratios of the file before are read, and nobody is told.
 TEST_F(Export, ColumnsThatAreMissingPrintColumnZeroAndWhatTheirRatiosHeld) {
     rs.ColU235 = rs.ColTh232 = 0;

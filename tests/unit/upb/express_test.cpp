@@ -183,6 +183,20 @@ TEST_F(Express, OnTheFlexPathAnAnalyteThatWasNotMeasuredShowsNothing) {
     EXPECT_EQ(form.lblAver(8).text, "2");
 }
 
+// Also of the analytes that a file for dating must have: without the two that share 208/232 the others are calculated.
+TEST_F(Express, OnTheFlexPathNoMarginIsSoughtWhereNothingWasMeasured) {
+    rs.Method = 3;
+    rs.ColPb208 = rs.ColTh232 = 0;
+    rs.CpsMean(0) = 7;  // left by a correction of a missing Pb204
+    form.lbl208.text = form.lbl208LoD.text = "old";
+    calculate();
+    EXPECT_EQ(form.lbl208.text, "");
+    EXPECT_EQ(form.lbl208LoD.text, "");
+    EXPECT_EQ(form.lbl232.text, "n. d.");
+    EXPECT_EQ(form.lbl206.text, "30");
+    EXPECT_EQ(form.lblAge06_38.text, "1108");
+}
+
 TEST_F(Express, CalculatedU235BeginsAtTheEndOfTheBlank) {
     rs.set235_Calc = 1;
     for (int t = 1; t <= 10; ++t) rs.Sig(u238, t) = t < 7 ? 300 : 600;
@@ -257,7 +271,20 @@ FaultKind fault_of(const std::function<void()>& work) {
 TEST_F(Express, AnHgRatioOfZeroIsAFault) {
     form.chkHgCorr.value = 1;
     rs.Hg2_4 = 0;
+    rs.Sig204Net(3) = rs.Sig204Net(4) = 9;
     EXPECT_EQ(fault_of([&] { calculate(); }), FaultKind::division_by_zero);
+    EXPECT_DOUBLE_EQ(rs.Sig204Net(3), 0.01);  // it strikes at the first slice, at the end of the blank
+    EXPECT_DOUBLE_EQ(rs.Sig204Net(4), 9);
+}
+
+TEST_F(Express, WithoutHgInTheGasTheBlankOfPb204StaysInIt) {
+    form.chkHgCorr.value = 1;
+    rs.BlkMean(pb204) = 1.0;
+    rs.BlkMean(hg202) = 0.0001;  // what a blank of nothing is taken for
+    rs.Hg2_4 = 4;
+    calculate();
+    EXPECT_DOUBLE_EQ(rs.Sig2(pb204, 5), 4 - 0.000025);
+    EXPECT_DOUBLE_EQ(rs.Sig204Net(5), 3);
 }
 
 // The ratios are shown, then the skewness divides by (n - 1)(n - 2).

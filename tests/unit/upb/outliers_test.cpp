@@ -1,5 +1,7 @@
 #include "upb/outliers.hpp"
 
+#include "core/fault.hpp"
+#include "upb/express.hpp"
 #include "uranium_case.hpp"
 
 namespace kolvar::test {
@@ -118,6 +120,23 @@ TEST_F(Outliers, ALimitThatIsNoNumberMakesEveryDeviationOne) {
     EXPECT_EQ(test().size(), 4U);
 }
 
+TEST_F(Outliers, TheLimitIsReadOnlyWhereARatioIsTested) {
+    form.txtSD.text = "1e999";
+    EXPECT_THROW(test(), Fault);
+    form.chk68.value = form.chk75.value = 0;
+    EXPECT_TRUE(test().empty());
+    EXPECT_EQ(form.lblOM.text, "0 / 4");
+}
+
+TEST_F(Outliers, AreNotRejectedByTheBoxNorByTheSettingThatOfferIt) {
+    form.chkRejOL.value = 1;
+    rs.setRej_Man = 1;
+    EXPECT_EQ(test().size(), 2U);
+    EXPECT_FALSE(rs.RejectOn);
+    EXPECT_EQ(flags(), (std::vector<int>{0, 0, 0, 0}));
+    EXPECT_EQ(rs.SelNGood, 4);
+}
+
 TEST_F(Outliers, AreLeftAloneWhileTheyAreNotShown) {
     form.chkShowSD.value = 0;
     rs.RejFlag(6) = 3;
@@ -142,6 +161,22 @@ TEST_F(Outliers, RestoringBringsAllSlicesOfTheSelectionBack) {
     EXPECT_EQ(form.cmdReject.text, "Reject outliers");
     EXPECT_EQ(form.lblReject.text, "No. of outliers:");
     EXPECT_FALSE(form.lblOM.fore);
+}
+
+// 238/232 is 2 2 4 4. Slice 5 was rejected when the selection began there; a narrower selection leaves its flag, and
+// when the slice is taken in again the first figures miss it in their sums, until the test behind them wipes the flag.
+TEST_F(Outliers, AFlagThatANarrowerSelectionLeftOutLowersTheFirstFiguresOfTheWiderOne) {
+    form.chkShowSD.value = 0;
+    rs.RejectOn = true;
+    rs.RejFlag(5) = 1;
+    select(6, 8);
+    restore_rejected(rs, form);
+    select(5, 8);
+    calc_express_UP(context);
+    EXPECT_DOUBLE_EQ(rs.Mean382, 2.5);
+    test();
+    calc_express_UP(context);
+    EXPECT_DOUBLE_EQ(rs.Mean382, 3);
 }
 
 }  // namespace
