@@ -18,6 +18,7 @@ namespace {
 // Farther out the raster of Qt would overflow; nothing of it is seen.
 constexpr double far_out = 1.0e6;
 constexpr std::ptrdiff_t most_smooth_lines = 12000;
+constexpr std::size_t most_open_curves = 16;
 
 double inside(double at) { return std::clamp(at, -far_out, far_out); }
 
@@ -41,23 +42,42 @@ public:
                 line(command);
                 continue;
             }
-            finish_curve();
+            finish_curves();
             other(command, canvas);
         }
-        finish_curve();
+        finish_curves();
     }
 
 private:
     [[nodiscard]] QPointF point(double x, double y) const { return {inside(x * scale_.x), inside(y * scale_.y)}; }
 
+    struct Curve {
+        Colour colour;
+        std::vector<QPointF> points;
+    };
+
+    // A line that goes on where one of its colour ended belongs to the same curve, also where the pieces of several
+    // curves come in turns.
     void line(const DrawCommand& command) {
         const QPointF from = point(command.x1, command.y1), to = point(command.x2, command.y2);
-        if (curve_.empty() || !(command.colour == colour_) || curve_.back() != from) {
-            finish_curve();
-            colour_ = command.colour;
-            curve_.push_back(from);
+        const auto before = std::find_if(open_.rbegin(), open_.rend(), [&](const Curve& curve) {
+            return curve.points.back() == from && curve.colour == command.colour;
+        });
+        if (before != open_.rend()) {
+            before->points.push_back(to);
+            return;
         }
-        curve_.push_back(to);
+        if (open_.size() == most_open_curves) finish_curves();
+        open_.push_back({command.colour, {from, to}});
+    }
+
+    void finish_curves() {
+        for (Curve& open : open_) {
+            colour_ = open.colour;
+            curve_ = std::move(open.points);
+            finish_curve();
+        }
+        open_.clear();
     }
 
     void other(const DrawCommand& command, const Canvas& canvas) {
@@ -201,7 +221,8 @@ private:
     int thick_ = 1;
     std::ptrdiff_t lines_ = 0;
     Colour colour_;
-    std::vector<QPointF> curve_;
+    std::vector<Curve> open_;
+    std::vector<QPointF> curve_;  // the one that is painted
     std::vector<double> lowest_, highest_;
 };
 

@@ -72,6 +72,22 @@ void draw_curve(Canvas& canvas, std::span<const double> x, Colour colour, Place&
     }
 }
 
+// Several curves side by side, slice by slice, so that each piece of a later curve lies over those of the earlier ones;
+// `place(k, i)` gives the height of curve k at slice i or nothing.
+template <class Place>
+void draw_curves_by_slice(Canvas& canvas, std::span<const double> x, std::span<const Colour> colours, Place&& place) {
+    if (x.size() < 3) return;
+    std::vector<std::optional<double>> former(colours.size());
+    for (std::size_t k = 0; k < colours.size(); ++k) former[k] = place(k, std::size_t{1});
+    for (std::size_t i = 2; i < x.size(); ++i) {
+        for (std::size_t k = 0; k < colours.size(); ++k) {
+            const std::optional<double> here = place(k, i);
+            if (former[k] && here) canvas.Line(x[i - 1], *former[k], x[i], *here, colours[k]);
+            former[k] = here;
+        }
+    }
+}
+
 // What the lower plot shows of a column or a pair: a ratio of two signals, or concentrations.
 struct LowerCurve {
     Colour colour;

@@ -1,6 +1,8 @@
 #include <array>
 #include <cmath>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
@@ -9,14 +11,26 @@
 namespace kolvar {
 namespace {
 
-// Column and colour of the six single curves; column 0 = the curve isn't set.
-std::array<std::pair<int, Colour>, 6> single_curves(const RunState& rs) {
-    return {{{rs.Curve1, palette(0)},
-             {rs.Curve2, palette(12)},
-             {rs.Curve3, palette(10)},
-             {rs.Curve4, palette(9)},
-             {rs.Curve5, palette(13)},
-             {rs.Curve6, palette(11)}}};
+struct SingleCurves {
+    std::vector<int> columns;
+    std::vector<Colour> colours;
+};
+
+// Those of the six that are set.
+SingleCurves single_curves(const RunState& rs) {
+    SingleCurves curves;
+    const std::array<std::pair<int, Colour>, 6> all{{{rs.Curve1, palette(0)},
+                                                     {rs.Curve2, palette(12)},
+                                                     {rs.Curve3, palette(10)},
+                                                     {rs.Curve4, palette(9)},
+                                                     {rs.Curve5, palette(13)},
+                                                     {rs.Curve6, palette(11)}}};
+    for (const auto& [column, colour] : all) {
+        if (column == 0) continue;
+        curves.columns.push_back(column);
+        curves.colours.push_back(colour);
+    }
+    return curves;
 }
 
 }  // namespace
@@ -41,11 +55,11 @@ void draw_pict1(Context& context) {
 
     const plot::Scale scale(area.height, rs.MaxCps, rs.LinearView);
     const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
-    for (const auto& [column, colour] : single_curves(rs)) {
-        if (column == 0) continue;
-        const auto signal = std::as_const(rs.Sig).column(column);
-        plot::draw_curve(area.canvas, x, colour, [&](std::size_t i) { return scale.place(signal[i]); });
-    }
+    const SingleCurves curves = single_curves(rs);
+    std::vector<std::span<const double>> signals;
+    for (const int column : curves.columns) signals.push_back(std::as_const(rs.Sig).column(column));
+    plot::draw_curves_by_slice(area.canvas, x, curves.colours,
+                               [&](std::size_t k, std::size_t i) { return scale.place(signals[k][i]); });
 
     if (!rs.LinearView) {
         plot::hide_label(area.canvas, frm.lblMaxCps);
@@ -67,12 +81,17 @@ void draw_pict2(Context& context) {
     plot::draw_interval_lines(rs, area);
     plot::show_maximum(frm.pict2, frm.lblMaxIIS, Format(rs.MaxRatio, "0.000"));
     const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
-    for (const auto& [column, colour] : single_curves(rs)) {
-        if (column == 0) continue;
-        const plot::LowerCurve curve = rs.setRatio_ppmIS.val() == 1 ? plot::concentration_curve(rs, column, colour)
-                                                                    : plot::standard_ratio_curve(rs, column, colour);
-        plot::draw_lower_curve(area, x, curve, rs.MaxRatio);
-    }
+    const SingleCurves curves = single_curves(rs);
+    std::vector<plot::LowerCurve> shown;
+    for (std::size_t k = 0; k < curves.columns.size(); ++k)
+        shown.push_back(rs.setRatio_ppmIS.val() == 1
+                            ? plot::concentration_curve(rs, curves.columns[k], curves.colours[k])
+                            : plot::standard_ratio_curve(rs, curves.columns[k], curves.colours[k]));
+    const plot::Scale scale(area.height, rs.MaxRatio, true);
+    plot::draw_curves_by_slice(area.canvas, x, curves.colours, [&](std::size_t k, std::size_t i) {
+        const std::optional<double> value = shown[k].value(i);
+        return value ? scale.place(*value) : std::nullopt;
+    });
 }
 
 }  // namespace kolvar

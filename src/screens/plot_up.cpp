@@ -1,6 +1,8 @@
 // The signals of the U/Pb and FLEX screen.
 #include <algorithm>
 #include <array>
+#include <span>
+#include <vector>
 
 #include "core/numbers.hpp"
 #include "screens/plot_parts.hpp"
@@ -39,12 +41,15 @@ void draw_signals(const RunState& rs, Frm2UP& form, double maximum) {
         if (rs.LinearView) return linear.place(cps);
         return std::optional<double>(area.height - area.height * 0.9 * Log10(cps <= 0 ? 0.00001 : cps) / decades);
     };
-    const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
+    std::vector<std::span<const double>> cps;
+    std::vector<Colour> colours;
     for (const Signal& signal : signals_by_role(rs)) {
         if (signal.column < 1) continue;
-        const auto cps = rs.Sig.column(signal.column);
-        plot::draw_curve(area.canvas, x, signal.colour, [&](std::size_t i) { return place(cps[i]); });
+        cps.push_back(rs.Sig.column(signal.column));
+        colours.push_back(signal.colour);
     }
+    const std::vector<double> x = plot::slice_positions(area.width, rs.nSlices);
+    plot::draw_curves_by_slice(area.canvas, x, colours, [&](std::size_t k, std::size_t i) { return place(cps[k][i]); });
 }
 
 }  // namespace
@@ -76,7 +81,9 @@ void draw_UP(Context& context) {
     if (rs.LinearView) plot::draw_linear_divisions(form, rs.ScaleStep);
     draw_signals(rs, form, end.maximum);
     if (rs.LinearView) {
-        plot::show_maximum(form.pict1, form.lblMaxCps, Format(rs.MaxCps, "0"));
+        const std::string maximum = Format(rs.MaxCps, "0");
+        plot::show_maximum(form.pict1, form.lblMaxCps, maximum);
+        form.lblMaxCps2.text = maximum;
     } else {
         if (end.maximum > 1) plot::draw_decades(form, end.maximum, false);
         plot::hide_label(canvas, form.lblMaxCps);

@@ -41,6 +41,23 @@ void mark_beam_start(Context& context, const TimeScreen& screen) {
     draw_UP(context);
 }
 
+// A limit at 0 keeps what its label reads: the 0 that was clicked, or nothing after the window has come up.
+std::string shown_limit(const Limit& limit, const Label& label) {
+    return limit.is_set() && limit.val() == 0 ? label.text : limit.text();
+}
+
+double below_plot(const TimeScreen& screen) { return screen.pict1.top + screen.pict1.height + 100; }
+
+// The number of the lower limit ends at its line, that of the upper one begins at its line.
+void place_lower_label(const RunState& rs, TimeScreen& screen) {
+    plot::show_label(screen.pict1.canvas, screen.lblLow, shown_limit(rs.SelLow, screen.lblLow),
+                     screen.pict1.left + rs.SelLowX - screen.lblLow.width, below_plot(screen));
+}
+void place_upper_label(const RunState& rs, TimeScreen& screen) {
+    plot::show_label(screen.pict1.canvas, screen.lblUpp, shown_limit(rs.SelUpp, screen.lblUpp),
+                     screen.pict1.left + rs.SelUppX, below_plot(screen));
+}
+
 bool shows_text(const Label& label) { return label.visible && !label.text.empty(); }
 
 // The user overrides a refinement that was not accepted, or one that found nothing: the limits that the search started
@@ -84,22 +101,37 @@ bool mark_limit(const RunState& rs, const TimeScreen& screen, Limit& low, double
     return true;
 }
 
-bool mark_signal(RunState& rs, TimeScreen& screen) {
+// Moves the limit that the button stands for, and its number.
+bool move_limit(RunState& rs, TimeScreen& screen) {
     if (!mark_limit(rs, screen, rs.SelLow, rs.SelLowX, rs.SelUpp, rs.SelUppX)) return false;
-    // A click at the left edge means the first slice; of the four limits this one alone is put right.
-    if (rs.ClickButton == left_button && rs.SelLow.val() == 0) rs.SelLow = 1;
-    // The number that was clicked, a 0 at the left edge too.
-    if (rs.ClickButton == right_button) screen.lblUpp.text = rs.SelUpp.text();
-    place_limit_labels(rs, screen);
-    count_selection(rs);
-    if (rs.SelN.val() > 0) {
-        screen.lblMeasSel.text = rs.SelN.text();
-        if (plot::blank_is_marked_here(rs)) screen.lblBLKshow.visible = screen.lblBLKtolig.visible = true;
+    if (rs.ClickButton == left_button) {
+        // A click at the left edge means the first slice; of the four limits this one alone is put right.
+        if (rs.SelLow.val() == 0) rs.SelLow = 1;
+        place_lower_label(rs, screen);
+    }
+    if (rs.ClickButton == right_button) {
+        screen.lblUpp.text = rs.SelUpp.text();  // the number that was clicked, a 0 at the left edge too
+        place_upper_label(rs, screen);
     }
     return true;
 }
 
-// Both limits at once, each where its caption shows a number; the other goes back to where the search began.
+void count_signal(RunState& rs, TimeScreen& screen) {
+    count_selection(rs);
+    if (rs.SelN.val() <= 0) return;
+    screen.lblMeasSel.text = rs.SelN.text();
+    if (plot::blank_is_marked_here(rs)) screen.lblBLKshow.visible = screen.lblBLKtolig.visible = true;
+}
+
+bool mark_signal(RunState& rs, TimeScreen& screen) {
+    if (!move_limit(rs, screen)) return false;
+    count_signal(rs, screen);
+    return true;
+}
+
+// Both limits at once, each where its caption shows a number; the other goes back to where the search began. Of a
+// proposal whose limits cross the lower one alone is taken, nothing is counted or drawn, and the captions stay: the
+// next click puts the limits of the start back.
 bool accept_proposal(RunState& rs, Frm2UP& form) {
     const auto proposed = [](const Label& caption, const Limit& start) {
         return shows_text(caption) ? Val(caption.text) : start.val();
@@ -109,7 +141,7 @@ bool accept_proposal(RunState& rs, Frm2UP& form) {
     rs.TrialLimits = false;
     rs.ClickX = form.pict1.width * low / rs.nSlices;
     rs.ClickButton = left_button;
-    if (!mark_signal(rs, form)) return false;
+    if (!move_limit(rs, form)) return false;
     rs.ClickX = form.pict1.width * upp / rs.nSlices;
     rs.ClickButton = right_button;
     return mark_signal(rs, form);
@@ -153,14 +185,18 @@ void correct_and_draw(Context& context) {
 }
 
 // The results and the rejection of outliers that a former selection gave no longer hold.
-void drop_stale_results(Context& context) {
+void drop_stale_results(Context& context, const TimeScreen& screen) {
     RunState& rs = context.rs;
-    if (!selection_stands(rs) || !blank_stands(rs)) return;
-    if (rs.RejectOn) {
-        restore_rejected(rs, context.forms.frm2_UP);
-        context.forms.frm2_UP.lblReject.visible = context.forms.frm2_UP.lblOM.visible = false;
-    }
     Frm2UP& form = context.forms.frm2_UP;
+    if (!selection_stands(rs) || !blank_stands(rs)) return;
+    if (in_sequence(rs) && &screen == &form) {
+        form.cmdSaveAnd(0).enabled = form.cmdSaveAnd(1).enabled = can_save_line(rs);
+        form.cmdCopyMas.enabled = true;
+    }
+    if (rs.RejectOn) {
+        restore_rejected(rs, form);
+        form.lblReject.visible = form.lblOM.visible = false;
+    }
     form.cmdZizeges.visible = true;
     form.cmdAccept.visible = false;
     rs.ZizzRunning = false;
@@ -177,11 +213,6 @@ void enable_what_the_limits_allow(Context& context, TimeScreen& screen) {
         if (rs.Method == 1 || rs.Method == 3) offer_rejection(context.forms.frm2_UP);
         if (rs.Method == 1) screen.cmdCopySel.enabled = true;
         screen.cmdCopyHead.enabled = screen.cmdCopy.enabled = screen.cmdApp.enabled = true;
-        Frm2UP& form = context.forms.frm2_UP;
-        if (in_sequence(rs) && &screen == &form) {
-            form.cmdSaveAnd(0).enabled = form.cmdSaveAnd(1).enabled = can_save_line(rs);
-            form.cmdCopyMas.enabled = true;
-        }
     }
     enable_results(context);
 }
@@ -237,7 +268,7 @@ void mark_selection(Context& context, TimeScreen& screen) {
     rs.ClickShift = 0;
     if (rs.Method == 0) correct_and_draw(context);
     if (uranium_lead) {
-        drop_stale_results(context);
+        drop_stale_results(context, screen);
         draw_UP(context);
     }
     enable_what_the_limits_allow(context, screen);
@@ -272,16 +303,8 @@ void positions_from_slices(RunState& rs, const TimeScreen& screen) {
 }
 
 void place_limit_labels(const RunState& rs, TimeScreen& screen) {
-    // A limit at 0 keeps what its label reads: the 0 that was clicked, or nothing after the window has come up.
-    const auto shown = [](const Limit& limit, const Label& label) {
-        return limit.is_set() && limit.val() == 0 ? label.text : limit.text();
-    };
-    const double left = screen.pict1.left;
-    const double top = screen.pict1.top + screen.pict1.height + 100;
-    // The number of the lower limit ends at its line, that of the upper one begins at its line.
-    plot::show_label(screen.pict1.canvas, screen.lblLow, shown(rs.SelLow, screen.lblLow),
-                     left + rs.SelLowX - screen.lblLow.width, top);
-    plot::show_label(screen.pict1.canvas, screen.lblUpp, shown(rs.SelUpp, screen.lblUpp), left + rs.SelUppX, top);
+    place_lower_label(rs, screen);
+    place_upper_label(rs, screen);
 }
 
 }  // namespace kolvar

@@ -60,6 +60,9 @@ void lay_out_up_window(Context& context) {
     place_plot(form.pict1, left, head, width, height);
     place_plot(form.pict2, left, head + height + between_plots, form.pict1.width, height);
     place_upper_scale(form, left - scale_labels, scale_labels - 60);
+    // The end of the scale once more, at the right end of the plot, where the zoom bar stands.
+    place(form.lblMaxCps2, left + form.pict1.width - form.lblMaxCps2.width, head - label_height - 15,
+          form.lblMaxCps2.width, label_height);
     place_around_plots(form);
     form.lblBeam_St.height = label_height;
     for (Label* limit : {&form.lblBestLow, &form.lblBestUpp}) {

@@ -181,7 +181,8 @@ void connect_up_window(Program& program) {
     click("cmdExit", [](Context&) { throw ProgramEnd{0}; });
     for (const char* place : {"", "pictRightSide"})
         program.on(form, place, EventKind::dblclick, [&context](const Event&) {
-            if (context.rs.SelN.val() != 0) preview_selection(context, true);
+            const RunState& rs = context.rs;
+            if (rs.SelN.val() != 0 && rs.SelLow.is_set() && rs.SelUpp.is_set()) preview_selection(context, true);
         });
     program.on(form, "", EventKind::resize, [&context](const Event&) { resize_up_window(context); });
 }

@@ -56,6 +56,30 @@ TEST(CanvasPainter, UprightLineIsOneSharpColumn) {
     EXPECT_EQ(count(painted(canvas, 10, 10, 2), red), 2 * 20);
 }
 
+TEST(CanvasPainter, PiecesOfTwoCurvesInTurnsMakeTheSamePictureAsOneCurveAfterTheOther) {
+    Canvas in_turns, one_by_one;
+    for (Canvas* canvas : {&in_turns, &one_by_one}) canvas->Clear();
+    const auto piece = [](Canvas& canvas, int i, int top, Colour colour) {
+        canvas.Line(8 * px * i, (top + i % 2) * px, 8 * px * (i + 1), (top + 1 - i % 2) * px, colour);
+    };
+    for (int i = 0; i < 5; ++i) {
+        piece(in_turns, i, 2, red);
+        piece(in_turns, i, 9, blue);
+    }
+    for (int i = 0; i < 5; ++i) piece(one_by_one, i, 2, red);
+    for (int i = 0; i < 5; ++i) piece(one_by_one, i, 9, blue);
+    const QImage image = painted(in_turns, 40, 14);
+    EXPECT_EQ(image, painted(one_by_one, 40, 14));
+    EXPECT_LT(count(image, white), 40 * 14 - 60);
+}
+
+TEST(CanvasPainter, MoreCurvesThanAreHeldOpenAreAllPainted) {
+    Canvas canvas;
+    canvas.Clear();
+    for (int row = 0; row < 40; ++row) canvas.Line(0, row * px, 10 * px, row * px, red);
+    EXPECT_EQ(count(painted(canvas, 10, 40), red), 400);
+}
+
 TEST(CanvasPainter, LineAtTheRightEdgeIsSeen) {
     Canvas canvas;
     canvas.Clear();

@@ -209,16 +209,20 @@ TEST_F(SingleCurves, AreScaledByTheCallersMaximum) {
     EXPECT_EQ(frm.pict1.canvas.draws(), 1);
 }
 
-TEST_F(SingleCurves, HaveColoursInAnOrderOfTheirOwn) {
+// Piece by piece from slice to slice: the line of the lower limit, then six pieces for each of the slices 2 to 4.
+TEST_F(SingleCurves, AreDrawnSliceBySliceInColoursOfAnOrderOfTheirOwn) {
     rs.Curve3 = rs.Curve4 = rs.Curve5 = rs.Curve6 = 3;
+    rs.MaxRatio = 4;
+    for (int t = 1; t <= 4; ++t) rs.Sig2(1, t) = rs.Sig2(2, t) = rs.Sig2(3, t) = 10;
     draw_pict1(bench.context);
-    std::vector<Colour> colours;
-    for (const DrawCommand& line : commands(frm.pict1, DrawCommand::Kind::line)) colours.push_back(line.colour);
-    const std::vector<Colour> expected{palette(6),  palette(0),  palette(0),  palette(0),  palette(12),
-                                       palette(12), palette(12), palette(10), palette(10), palette(10),
-                                       palette(9),  palette(9),  palette(9),  palette(13), palette(13),
-                                       palette(13), palette(11), palette(11), palette(11)};
-    EXPECT_EQ(colours, expected);
+    std::vector<Colour> expected{palette(6)};
+    for (int t = 2; t <= 4; ++t)
+        for (const int colour : {0, 12, 10, 9, 13, 11}) expected.push_back(palette(colour));
+    for (const Picture* plot : {&frm.pict1, &frm.pict2}) {
+        std::vector<Colour> colours;
+        for (const DrawCommand& line : commands(*plot, DrawCommand::Kind::line)) colours.push_back(line.colour);
+        EXPECT_EQ(colours, expected) << plot->name;
+    }
 }
 
 TEST_F(SingleCurves, CurveThatIsNotSetIsNotDrawn) {

@@ -297,6 +297,34 @@ TEST_F(RefinementButtons, ShiftOfADroppedClickDoesNotReachTheAcceptance) {
     EXPECT_EQ(rs().BlkUpp, Limit(9));
 }
 
+// A search on a very short selection can end with limits that cross. The lower one is taken; the upper one would pass
+// it and is dropped like a click, without a count and a drawing. The next click puts back what was marked.
+TEST_F(RefinementButtons, OfAProposalWhoseLimitsCrossTheLowerOneAloneIsTaken) {
+    open(20, 23);
+    rs().BestLow = 20, rs().BestUpp = 23;
+    rs().SelLow = 23, rs().SelUpp = 26;  // the last pair tried
+    rs().SelN = rs().SelNGood = 4;
+    rs().ZizzRunning = true;
+    form().lblBestLow.text = "22", form().lblBestUpp.text = "21";
+    form().lblBestLow.visible = form().lblBestUpp.visible = form().cmdAccept.visible = true;
+    form().cmdZizeges.visible = false;
+    const int draws = form().pict1.canvas.draws();
+    accept();
+    EXPECT_EQ(rs().SelLow, Limit(22));
+    EXPECT_EQ(rs().SelUpp, Limit(26));
+    EXPECT_EQ(rs().SelN, Limit(4));
+    EXPECT_EQ(rs().SelNGood, 4);
+    EXPECT_DOUBLE_EQ(rs().SelLowX, form().pict1.width * 22.0 / 60);
+    EXPECT_DOUBLE_EQ(rs().SelUppX, form().pict1.width * 23.0 / 60);
+    EXPECT_EQ(form().lblLow.text + " " + form().lblUpp.text + " " + form().lblMeasSel.text, "22 23 4");
+    EXPECT_TRUE(form().lblBestLow.visible && form().lblBestUpp.visible && form().cmdZizeges.visible);
+    EXPECT_FALSE(form().cmdAccept.visible || rs().ZizzRunning || rs().AcceptBest);
+    EXPECT_EQ(form().pict1.canvas.draws(), draws);
+    EXPECT_TRUE(os.boxes.empty());
+    mark_up(right, 0, 30);
+    expect_settled(20, 30);
+}
+
 // From slice 20 on all ratios are the same: the pairs inside are a fault.
 TEST_F(RefinementButtons, FaultLeavesLimitsCursorAndButtonsAsBefore) {
     open(18, 40);

@@ -62,21 +62,21 @@ protected:
     }
 };
 
-TEST_F(UpSignals, OnALinearScaleBeginWithTheGridAndEndWithTheCurves) {
+TEST_F(UpSignals, OnALinearScaleBeginWithTheGridAndEndWithTheCurvesSliceBySlice) {
     // The maximum of 80 is rounded up to 100 in 10 divisions: y = 1000 - 9 cps.
     Drawn expected{"clear", "fill yellow 0.0 0.0 0.0 1000.0", "line 6 0.0 0.0 0.0 1000.0", "width 1"};
     for (const char* y : {"910.0", "820.0", "730.0", "640.0", "550.0", "460.0", "370.0", "280.0", "190.0", "100.0"})
         append(expected,
                {std::string("line 7 0.0 ") + y + " 1000.0 " + y, std::string("line 8 0.0 ") + y + " 75.0 " + y});
-    append(expected, {"line 6 250.0 1000.0 500.0 910.0", "line 6 500.0 910.0 750.0 910.0",
-                      "line 6 750.0 910.0 1000.0 1000.0",                                    //
-                      "line 10 250.0 910.0 500.0 820.0", "line 10 500.0 820.0 750.0 640.0",  //
-                      "line 10 750.0 640.0 1000.0 280.0"});
+    append(expected, {"line 6 250.0 1000.0 500.0 910.0", "line 10 250.0 910.0 500.0 820.0",  //
+                      "line 6 500.0 910.0 750.0 910.0", "line 10 500.0 820.0 750.0 640.0",   //
+                      "line 6 750.0 910.0 1000.0 1000.0", "line 10 750.0 640.0 1000.0 280.0"});
     EXPECT_EQ(draw(), expected);
     EXPECT_DOUBLE_EQ(rs.MaxCps, 100);
     EXPECT_DOUBLE_EQ(rs.ScaleStep, 10);
     EXPECT_EQ(form.lbluppScal.text, "80");
     EXPECT_EQ(form.lblMaxCps.text, "100");
+    EXPECT_EQ(form.lblMaxCps2.text, "100");
     EXPECT_TRUE(form.lblMaxCps.visible && form.lblMaxCps2.visible);
     EXPECT_EQ(form.lblMaxCps.left, 1000 - 600);
     EXPECT_FALSE(form.lbl10.visible);
@@ -110,7 +110,7 @@ TEST_F(UpSignals, EightCurvesInTheirOrderAndColours) {
 
 TEST_F(UpSignals, ColumnThatIsNotMeasuredHasNoCurve) {
     draw();
-    EXPECT_EQ(curve_colours(), (std::vector<std::string>{"6", "6", "6", "10", "10", "10"}));
+    EXPECT_EQ(curve_colours(), (std::vector<std::string>{"6", "10", "6", "10", "6", "10"}));
 }
 
 TEST_F(UpSignals, HgColumnOfAnEarlierFileIsNeitherDrawnNorScaledByForDating) {

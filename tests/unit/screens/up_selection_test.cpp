@@ -74,6 +74,21 @@ TEST_F(UpSelection, FourClicksGiveResultsAndTheirButtons) {
     EXPECT_TRUE(boxes().empty());
 }
 
+// The same ratio in all slices: its correlation divides by zero.
+TEST_F(UpSelection, InASequenceTheCopyIsUsableAlsoWhereTheCalculationEndsInAFault) {
+    rs.SeqMode = true;
+    form.cmdCopyMas.enabled = form.cmdCopy.enabled = false;
+    signal(u238, {100, 100, 100, 100});
+    signal(pb206, {10, 10, 10, 10});
+    mark(left, 1, 1);
+    mark(right, 3, 1);
+    mark(left, 5);
+    EXPECT_FALSE(form.cmdCopyMas.enabled);
+    EXPECT_THROW(mark(right, 8), Fault);
+    EXPECT_TRUE(form.cmdCopyMas.enabled);
+    EXPECT_FALSE(form.cmdCopy.enabled);  // this one waits for the drawing
+}
+
 TEST_F(UpSelection, ButtonOfTheRejectionComesBackAlsoWhereNothingCanBeCalculated) {
     form.cmdReject.visible = form.cmdReject.enabled = false;
     mark(left, 1, 1);

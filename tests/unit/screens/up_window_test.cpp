@@ -357,6 +357,17 @@ TEST_F(UpWindow, DoubleClickComputesTheBlankAlsoWhereNoneIsMarked) {
     EXPECT_EQ(os.boxes[0].text, "The selected blank interval is too short.");
 }
 
+// One limit alone counts -11 slices, which are no selection.
+TEST_F(UpWindow, DoubleClickDoesNothingWhileOneLimitIsMissing) {
+    go();
+    mark_up(1, 0, 12);
+    ASSERT_EQ(rs().SelN, Limit(-11));
+    dblclick(form());
+    dblclick(form(), "pictRightSide");
+    EXPECT_FALSE(forms().frm_AverConc.shown);
+    EXPECT_TRUE(os.boxes.empty());
+}
+
 TEST_F(UpWindow, BackKeepsTheLimitsAndSettlesNothingElse) {
     go();
     mark_all();
