@@ -217,6 +217,12 @@ std::vector<RoadThatSaves> roads_that_save() {
                           t.click_first("mnuSettings", 1);
                           t.click(t.forms().frm_Set_FLEX, "cmdSaveAs");
                       }},
+        RoadThatSaves{"start_path", "start_path", false, false, "Run-time error: ", "start-kit",
+                      [](Saving& t) { t.start(0); },
+                      [](Saving& t) {
+                          t.click_first("mnuSettings", 3);
+                          t.click(t.forms().frm_ChoseDir, "cmdSave");
+                      }},
         RoadThatSaves{"quick_results", "0_quick-results", true, false,
                       "Error encountered while trying to save the Quick Result file. Maybe there is a 'Permission "
                       "denided error' because",
@@ -352,6 +358,132 @@ TEST_F(EmptyClipboard, IsToldOnTheFirstPathAndTheNextTableIsTaken) {
     click_first("cmdPaste");
     EXPECT_TRUE(os.boxes.empty());
     EXPECT_EQ(rs().DataFileName, " pasted from clipboard ");
+}
+
+// ---- A batch
+
+class BatchRoad : public OnRoads {
+protected:
+    static constexpr const char* not_written = "Error occurred while trying to save the master file, please retry.";
+
+    // The list of the kit's spots stands in its window, standards marked by their names.
+    void go_to_list() {
+        start(1);
+        click_first("cmdSequential");
+        click_first("cmdCreate");
+        ASSERT_TRUE(forms().frm_FileList.shown);
+        Event folder_chosen = event_of(EventKind::choose, forms().frm_FileList, "Dir1");
+        folder_chosen.text = folder.path("spots");
+        program->dispatch(folder_chosen);
+        click(forms().frm_FileList, "cmdAccept");
+        os.boxes.clear();
+    }
+    void save_list() {
+        os.saves = {master()};
+        click(forms().frm_FileList, "cmdSave");
+    }
+    // The spots of the kit in a folder of their own.
+    void lay_out_spots() {
+        fs::create_directories(folder.path("spots"));
+        for (const auto& file : fs::directory_iterator(folder.path("start-kit")))
+            if (file.path().filename().string().starts_with("0") && file.path().extension() == ".csv")
+                fs::copy_file(file.path(), folder.path("spots/" + file.path().filename().string()));
+    }
+    [[nodiscard]] std::string master() const { return folder.path("spots/0-spots.msf"); }
+};
+
+TEST_F(BatchRoad, AListThatCannotBeSavedIsToldAndSavedByTheNextTry) {
+    lay_out_spots();
+    go_to_list();
+    save_list();
+    ASSERT_TRUE(os.boxes.empty()) << os.boxes.front().text;
+    const std::string whole = bytes_of(master());
+    ASSERT_NE(whole.find("001-std-91500.csv"), std::string::npos);
+    for (const std::size_t room : {std::size_t{0}, std::size_t{1}, whole.size() / 2, whole.size() - 1}) {
+        fs::remove(master());
+        os.boxes.clear();
+        os.disk_room = room;
+        save_list();
+        EXPECT_EQ(box_texts(), std::vector<std::string>{not_written}) << room;
+        EXPECT_FALSE(fs::exists(master()));
+        EXPECT_TRUE(forms().frm_FileList.shown);
+        os.disk_room = whole.size();
+        save_list();
+        EXPECT_EQ(bytes_of(master()), whole) << room;
+    }
+    fs::remove(master());
+    os.boxes.clear();
+    os.disk_room = static_cast<std::size_t>(-1);
+    os.saves = {std::nullopt};
+    click(forms().frm_FileList, "cmdSave");
+    EXPECT_FALSE(fs::exists(master()));
+    os.refused_rename = master();
+    save_list();
+    EXPECT_EQ(box_texts(), std::vector<std::string>{not_written});
+    EXPECT_FALSE(fs::exists(master()));
+    os.refused_rename.clear();
+    save_list();
+    EXPECT_EQ(bytes_of(master()), whole);
+}
+
+TEST_F(BatchRoad, ALineThatCannotBeSavedStaysInWorkUntilItIs) {
+    lay_out_spots();
+    go_to_list();
+    save_list();
+    const std::string former = bytes_of(master());
+    for (const char* trouble : {"full", "half", "rename"}) {
+        folder.write("spots/0-spots.msf", former);
+        start(1);
+        os.opens = {master()};
+        click_first("cmdOpenMaster");
+        ASSERT_TRUE(forms().frm2_UP.shown);
+        mark_both(forms().frm2_UP);
+        ASSERT_TRUE(forms().frm2_UP.cmdSaveAnd(1).enabled);
+        os.boxes.clear();
+        const std::string file = rs().DataFileName;
+        os.disk_room = *trouble == 'f' ? 0 : *trouble == 'h' ? former.size() / 2 : static_cast<std::size_t>(-1);
+        if (*trouble == 'r') os.refused_rename = master();
+        click(forms().frm2_UP, "cmdSaveAnd", 1);
+        EXPECT_EQ(box_texts(), std::vector<std::string>{not_written}) << trouble;
+        EXPECT_EQ(bytes_of(master()), former) << trouble;
+        EXPECT_EQ(rs().DataFileName, file);
+        EXPECT_EQ(rs().SeqStdDone, 0);
+        os.disk_room = static_cast<std::size_t>(-1);
+        os.refused_rename.clear();
+        os.boxes.clear();
+        click(forms().frm2_UP, "cmdSaveAnd", 1);
+        EXPECT_TRUE(os.boxes.empty()) << os.boxes.front().text;
+        EXPECT_NE(bytes_of(master()), former) << trouble;
+        EXPECT_EQ(rs().SeqStdDone, 1);
+        EXPECT_NE(rs().DataFileName, file);
+    }
+}
+
+TEST_F(BatchRoad, AMasterFileThatCannotBeReadIsToldAndTheNextOneIsOpened) {
+    lay_out_spots();
+    go_to_list();
+    save_list();
+    const std::string whole = bytes_of(master());
+    fs::create_directories(folder.path("spots/a.msf"));
+    const std::string cut = folder.write("spots/cut.msf", whole.substr(0, whole.size() / 2) + "\"");
+    for (const std::string& bad : {folder.path("spots/none.msf"), folder.path("spots/a.msf"), cut}) {
+        start(1);
+        os.opens = {bad};
+        click_first("cmdOpenMaster");
+        ASSERT_EQ(os.boxes.size(), 1U) << bad;
+        EXPECT_EQ(os.boxes[0].kind, "fault");
+        EXPECT_NE(os.boxes[0].text.find(bad), std::string::npos) << os.boxes[0].text;
+        EXPECT_FALSE(program->ended() || program->busy());
+        os.boxes.clear();
+        os.opens = {""};
+        click_first("cmdOpenMaster");
+        EXPECT_TRUE(os.boxes.empty());
+        os.opens = {master()};
+        click_first("cmdOpenMaster");
+        EXPECT_TRUE(forms().frm2_UP.shown) << bad;
+        EXPECT_TRUE(os.boxes.empty());
+        EXPECT_EQ(rs().SeqCount, 12);
+    }
 }
 
 }  // namespace
