@@ -86,7 +86,8 @@ struct Counters {
     int files = 0, samples_done = 0, standards = 0, standards_done = 0;
 };
 
-// "0042/0000/0008/0000": files, samples done, standards, standards done.
+// "0042/0000/0008/0000": files, samples done, standards, standards done. What is no number counts as 0, but for the
+// files: a list that isn't counted could only be taken for an empty one, and be lost with the next save.
 Counters counters_of(const std::string& header, const std::string& path) {
     constexpr std::size_t digits = 4;
     constexpr double most = 9999;
@@ -95,8 +96,7 @@ Counters counters_of(const std::string& header, const std::string& path) {
         const std::string_view text = std::string_view(header).substr(std::min(from, header.size()), digits);
         const LeadingNumber read = leading_number(text);
         const double count = round_half_even(read.number);
-        // A list that isn't counted could only be taken for an empty one, and be lost with the next save.
-        if (read.length == 0 || read.too_large || count < 0 || count > most) garbage();
+        if ((read.length == 0 && from == 0) || read.too_large || count < 0 || count > most) garbage();
         return static_cast<int>(count);
     };
     return {group(0), group(5), group(10), group(15)};

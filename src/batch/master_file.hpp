@@ -20,8 +20,8 @@ bool is_processed(const RunState& rs, int line);
 bool is_standard(const RunState& rs, int line);
 
 // Fills counters, MasterRecs and SeqPhase. Fault with the path when the file can't be read (file_missing,
-// file_unreadable), ends too early (end_of_file), has no counters in its header (type) or counts more lines than a list
-// holds (too_many); counters and list are then as before.
+// file_unreadable), ends too early (end_of_file), has no count of files in its header (type) or counts more lines than
+// a list holds (too_many); counters and list are then as before.
 void ReadMaster(RunState& rs, const std::string& path);
 
 // Writes the file from the list window's grid (ListMode 0; refused when the file exists) or from MasterRecs

@@ -1,5 +1,8 @@
 // The drift of a batch and the factors that follow from it.
 #include <algorithm>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include "batch/drift.hpp"
 #include "batch/drift_plot.hpp"
@@ -66,15 +69,39 @@ void resize_drift(Context& context) {
     if (form.plotted) draw_drift(context.rs, form);
 }
 
+// Factors and where the batch stood, for the case that they can't be written.
+class FormerFactors {
+public:
+    explicit FormerFactors(const RunState& rs) : phase_(rs.SeqPhase), samples_(rs.SeqSamDone) {
+        for (int i = 1; i <= rs.SeqCount; ++i) factors_.emplace_back(rs.MasterRecs(i, 5), rs.MasterRecs(i, 7));
+    }
+    void put_back(RunState& rs) const {
+        for (int i = 1; i <= rs.SeqCount; ++i)
+            std::tie(rs.MasterRecs(i, 5), rs.MasterRecs(i, 7)) = factors_[static_cast<std::size_t>(i) - 1];
+        rs.SeqPhase = phase_;
+        rs.SeqSamDone = samples_;
+    }
+
+private:
+    std::vector<std::pair<Value, Value>> factors_;
+    int phase_, samples_;
+};
+
 void cmdAccept(Context& context) {
     RunState& rs = context.rs;
     FrmDrift& form = context.forms.frm_drift;
+    const FormerFactors former(rs);
     write_factors(rs);
     rs.SeqSamDone = rs.SeqStdDone;
     form.cmdAccept.enabled = false;
     rs.SeqPhase = 3;
     rs.ListMode = 1;
-    SaveMaster(rs, context.os, context.forms.frm_FileList.FlexGrid2, rs.MasterPath);
+    if (!SaveMaster(rs, context.os, context.forms.frm_FileList.FlexGrid2, rs.MasterPath)) {
+        // The list holds what the file holds, and the same button tries again.
+        former.put_back(rs);
+        form.cmdAccept.enabled = true;
+        return;
+    }
     context.shell.close(form);
     // The walk goes on with the samples: the strip says so, and a standard in work can't be saved any more.
     show_sequence(context);

@@ -30,12 +30,12 @@ std::vector<std::string> drives() {
     return roots;
 }
 
-// While a new list is made, the strip of the batch that is in work on the U/Pb screen rests, and its drift plot closes:
-// they would save into the new list. Closing the list window goes back to that batch.
+// While a new list is made, the strip of the batch in work rests, and its drift plot closes: they would save into the
+// new list. Closing the list window goes back to that batch.
 void rest_running_batch(Context& context) {
-    if (!context.forms.frm2_UP.shown || !in_sequence(context.rs) || context.rs.MasterName.empty()) return;
-    context.forms.frm2_UP.pictSeq.enabled = false;
     context.shell.close(context.forms.frm_drift);
+    if (!in_sequence(context.rs) || context.rs.MasterName.empty()) return;
+    context.forms.frm2_UP.pictSeq.enabled = false;
 }
 
 void go_back_to_running_batch(Context& context) {
@@ -46,6 +46,7 @@ void go_back_to_running_batch(Context& context) {
     rs.ListMode = 1;
     ReadMaster(rs, rs.MasterPath);
     strip.enabled = true;
+    if (context.forms.frm2_UP.shown) show_sequence(context);
 }
 
 void show_drive(FrmFileList& form) {
@@ -183,8 +184,8 @@ void cmdBack(Context& context) {
 }
 
 void cmdClose(Context& context) {
-    go_back_to_running_batch(context);
     context.shell.close(context.forms.frm_FileList);
+    go_back_to_running_batch(context);
 }
 
 // The following lines move up with their marks, also those set by hand.
@@ -246,6 +247,7 @@ void open_file_list(Context& context) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
     const Running running(rs, "open_file_list");
+    if (rs.ListMode == 0) rest_running_batch(context);
     if (form.width == 0) form.width = 18000, form.height = 10500;  // room for the table on a small screen
     if (rs.ListMode == 0 || rs.ListMode == 1) {
         form.Combo1.set_items(counted(25));

@@ -86,6 +86,13 @@ void open_list_window(Context& context, int mode) {
     context.shell.open(context.forms.frm_FileList);
 }
 
+// Windows that stand open would go on with the figures of the former list, and write them into the new one.
+void leave_former_list(Context& context) {
+    context.shell.close(context.forms.frm_drift);
+    context.shell.close(context.forms.frm_FileList);
+    context.forms.frm2_UP.pictSeq.enabled = true;  // it rests while a list is made
+}
+
 void cmdOpenMaster(Context& context) {
     RunState& rs = context.rs;
     const Running running(rs, "cmdOpenMaster");
@@ -94,6 +101,7 @@ void cmdOpenMaster(Context& context) {
     if (!path.empty()) ReadMaster(rs, path);
     rs.SeqMode = true;
     if (path.empty()) return;
+    leave_former_list(context);
     rs.MasterName = file_name(path);
     rs.MasterPath = path;
     rs.MasterDir = native_path(path.substr(0, path.size() - rs.MasterName.size()));

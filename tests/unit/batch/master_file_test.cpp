@@ -232,6 +232,17 @@ TEST_F(MasterFile, CountersAreReadByTheirPlacesAndByTheirLeadingNumbers) {
     expect_counters(4, 3, 2, 1, 1);
 }
 
+TEST_F(MasterFile, ACounterBehindTheFilesThatIsNoNumberIsZero) {
+    for (const char* counters : {"0004", "0004/xxxx/0002/", "0004/    /0002/none"}) {
+        rs.SeqSamDone = rs.SeqStdDone = 3;
+        ReadMaster(rs, folder.write("m.msf", replaced(golden("1-new.msf"), "0004/0000/0002/0000", counters)));
+        EXPECT_EQ(rs.SeqCount, 4) << counters;
+        EXPECT_EQ(rs.SeqSamDone, 0) << counters;
+        EXPECT_EQ(rs.SeqStdCount, std::string(counters) == "0004" ? 0 : 2) << counters;
+        EXPECT_EQ(rs.SeqStdDone, 0) << counters;
+    }
+}
+
 TEST_F(MasterFile, AShorterListEmptiesTheLinesOfTheOneBefore) {
     ReadMaster(rs, folder.write("m.msf", golden("6-all-done.msf")));
     rs.MasterRecs(4, 80) = "behind the file's fields";
@@ -276,8 +287,8 @@ TEST_F(MasterFile, AFileThatEndsTooEarlyIsAFault) {
 }
 
 TEST_F(MasterFile, AHeaderOfGarbageIsAFault) {
-    for (const char* garbage : {"garbage", "", "-004/0000/0002/0000", "0004/0000/0002/", "0004/0000/-002/0000",
-                                "xxxx/0000/0002/0000", "1e999"}) {
+    for (const char* garbage :
+         {"garbage", "", "-004/0000/0002/0000", "0004/0000/-002/0000", "xxxx/0000/0002/0000", "1e999"}) {
         const Fault fault = refused_read(replaced(golden("1-new.msf"), "0004/0000/0002/0000", garbage));
         EXPECT_EQ(fault.kind, FaultKind::type) << garbage;
         EXPECT_EQ(fault.line, 1);

@@ -78,7 +78,7 @@ TEST_F(DriftWindow, AcceptingWritesTheFactorsAndGoesOnWithTheSamples) {
     EXPECT_NE(file.find("\r\n\"004.csv\",,\"Std\",\"Plesovice\",,1.4,,1.2,,"), std::string::npos) << file;
 }
 
-TEST_F(DriftWindow, AMasterFileThatCannotBeWrittenIsToldAndTheBatchGoesOnInMemory) {
+TEST_F(DriftWindow, AMasterFileThatCannotBeWrittenIsToldAndListAndFileStayUntilTheRetry) {
     folder.write("0-day.msf", "as it was");
     open();
     click(form(), "Command1");
@@ -87,8 +87,15 @@ TEST_F(DriftWindow, AMasterFileThatCannotBeWrittenIsToldAndTheBatchGoesOnInMemor
     EXPECT_EQ(box_texts(),
               std::vector<std::string>{"Error occurred while trying to save the master file, please retry."});
     EXPECT_EQ(master_file(), "as it was");
-    EXPECT_FALSE(form().shown);
+    EXPECT_EQ(rs().SeqPhase, 2);
+    EXPECT_EQ(rs().SeqSamDone, 0);
+    for (const int factor : {5, 7}) EXPECT_TRUE(rs().MasterRecs(2, factor).is_unset());
+    EXPECT_TRUE(form().shown && form().cmdAccept.enabled);
+    os.disk_room = 1000000;
+    click(form(), "cmdAccept");
+    EXPECT_EQ(master_file().substr(0, 21), "\"0004/0002/0002/0002\"");
     EXPECT_EQ(rs().SeqPhase, 3);
+    EXPECT_FALSE(form().shown);
 }
 
 TEST_F(DriftWindow, AfterTheFactorsAreWrittenItPlotsAndCannotBeAccepted) {

@@ -385,5 +385,15 @@ TEST_F(OpenedMaster, ANewListLeavesTheBatchInWorkAsItIs) {
     EXPECT_TRUE(forms().frm2_UP.pictSeq.enabled);
 }
 
+TEST_F(OpenedMaster, ANewListClosesTheDriftOfTheFormerOneAlsoFromTheStartPanel) {
+    open_in(1);
+    program->shell().open(forms().frm_drift);
+    click(form(), "cmdBack");
+    EXPECT_FALSE(forms().frm_drift.shown) << "its factors would go into the new list";
+    program->shell().open(forms().frm_drift);
+    choose(form(), "Dir1", folder.path("start-kit"));
+    EXPECT_FALSE(forms().frm_drift.shown);
+}
+
 }  // namespace
 }  // namespace kolvar::test

@@ -214,6 +214,47 @@ TEST_F(Walk, NothingCanBeSavedBeforeAllLimitsAreMarked) {
     EXPECT_TRUE(can_save());
 }
 
+TEST_F(Walk, AFileOpenedBesideTheListIsNotSavedIntoItsLine) {
+    write_day("0005/0000/0002/0000", five());
+    table("other.csv");
+    go_to_day();
+    next();
+    mark_all();
+    click(form(), "cmdBack");
+    os.opens = {day("other.csv")};
+    click(forms().frm1_Settings, "mnuFile", 0);
+    ASSERT_EQ(file(), "other.csv");
+    ASSERT_EQ(shown_windows(), Names{"frm2_UP"});
+    EXPECT_TRUE(cannot_save());
+    mark_up(2, 0, 20);
+    EXPECT_TRUE(cannot_save());
+    EXPECT_TRUE(form().cmdCopyMas.enabled);
+    previous();
+    next();
+    EXPECT_EQ(file(), "b.csv");
+    EXPECT_TRUE(can_save());
+}
+
+TEST_F(Walk, ALineWithoutANameIsPassedWithoutLoadingAndNotSaved) {
+    Lines lines = five();
+    lines[3].name.clear();
+    write_day("0005/0000/0002/0000", five());
+    std::string bytes = header("0005/0000/0002/0000");
+    int number = 0;
+    for (const Line& line : lines) bytes += record(line, ++number);
+    folder.write("day/0-day.msf", bytes);
+    go_to_day();
+    next();
+    mark_all();
+    ASSERT_TRUE(can_save());
+    next();
+    EXPECT_EQ(rs().SeqPos, 4);
+    EXPECT_EQ(file(), "b.csv");
+    EXPECT_TRUE(cannot_save());
+    mark_up(2, 0, 20);
+    EXPECT_TRUE(cannot_save());
+}
+
 TEST_F(Walk, LimitsStayWithFilesOfTheSameLengthWhenSoSet) {
     write_day("0005/0000/0002/0000", five());
     go_to_day();
@@ -472,6 +513,28 @@ TEST_F(Walk, TheTableAndTheDriftOpenBesideTheScreen) {
     click(forms().frm_FileList, "cmdClose");
     click(form(), "cmdPlot");
     EXPECT_EQ(shown_windows(), (Names{"frm2_UP", "frm_drift"}));
+}
+
+TEST_F(Walk, AnotherMasterFileClosesTheDriftAndTheListOfTheFormerOne) {
+    write_day("0005/0000/0002/0002", five(measured_with_factors));
+    go_to_day();
+    program->shell().open(forms().frm_drift);
+    forms().frm_drift.cmdAccept.enabled = true;  // as after a plot
+    click(form(), "cmdShowTab");
+    program->shell().open(forms().frm1_Settings);
+    // Neither a cancelled dialog nor a file that can't be read is another list.
+    os.opens = {""};
+    click(forms().frm1_Settings, "cmdOpenMaster");
+    open_master(day("none.msf"));
+    EXPECT_TRUE(forms().frm_drift.shown && forms().frm_FileList.shown);
+    std::filesystem::rename(day("0-day.msf"), day("1-next.msf"));
+    form().pictSeq.enabled = false;  // as while a list was made
+    open_master(day("1-next.msf"));
+    EXPECT_FALSE(forms().frm_drift.shown || forms().frm_FileList.shown);
+    EXPECT_TRUE(form().pictSeq.enabled);
+    program->shell().open(forms().frm_drift);
+    EXPECT_EQ(forms().frm_drift.title, "Drift plot of 1-next.msf");
+    EXPECT_FALSE(forms().frm_drift.cmdAccept.enabled);
 }
 
 }  // namespace
