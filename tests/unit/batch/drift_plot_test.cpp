@@ -113,6 +113,29 @@ TEST_F(DriftPlotTest, NumbersAreCentredBelowTheirLines) {
     EXPECT_GT(form.lbl(1).top, 400 + 1000 + 110);  // below the long ticks
 }
 
+TEST_F(DriftPlotTest, PlacesAreNotedBeforeTheStandardsAndFactorsBehindTheLines) {
+    form.pictDrift.width = 2000;
+    list_of(21);
+    plot_drift(rs, form);
+    const Canvas& canvas = form.pictDrift.canvas;
+    std::vector<std::string> order;  // each label with its text, each row of equal drawings once
+    for (const DrawCommand& command : canvas.commands()) {
+        std::string step;
+        if (command.kind == DrawCommand::Kind::line) step = "crosses";
+        if (command.kind == DrawCommand::Kind::fill_rect) step = "squares";
+        if (command.kind == DrawCommand::Kind::show_label) {
+            const Canvas::LabelText& label = canvas.labels()[static_cast<std::size_t>(command.number)];
+            step = label.name + " " + label.text;
+        }
+        if (!step.empty() && (order.empty() || order.back() != step)) order.push_back(step);
+    }
+    EXPECT_EQ(order,
+              (Places{"lbl(1) 11", "lbl(2) 21", "crosses", "squares", "lbl0_80 0.80", "lbl0_85 0.85", "lbl0_90 0.90",
+                      "lbl0_95 0.95", "lbl1_00 1.00", "lbl1_05 1.05", "lbl1_10 1.10", "lbl1_15 1.15", "lbl1_20 1.20"}));
+    // The first is centred at 700 + 1000.
+    EXPECT_EQ(canvas.commands()[1].x1, 1700 - form.lbl(1).width / 2.0);
+}
+
 TEST_F(DriftPlotTest, TheScaleMarksEachHundredthFrom0_8To1_2ThatLiesInside) {
     four_lines();
     plot_drift(rs, form);
