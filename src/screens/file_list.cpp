@@ -55,6 +55,15 @@ void show_master(Context& context) {
     show_grid(form, true);
 }
 
+std::vector<std::string> drives() {
+    std::vector<std::string> roots{"/"};
+    for (char letter = 'A'; letter <= 'Z'; ++letter) roots.push_back(std::string(1, letter) + ":\\");
+    std::erase_if(roots, [](const std::string& root) {
+        return !std::filesystem::path(root).is_absolute() || !folder_exists(root);
+    });
+    return roots;
+}
+
 std::vector<NamedStandard> table_of_standards(const RunState& rs) {
     std::vector<NamedStandard> standards;
     for (int k = 1; k <= rs.setNumSTD.whole(); ++k) standards.push_back({rs.Std_Name(k).text(), rs.Std_Abbr(k).text()});
@@ -76,6 +85,12 @@ std::optional<std::vector<std::string>> files_of_folder(const std::string& folde
     std::sort(names.begin(), names.end());
     if (names.size() > MaxListed) names.resize(MaxListed);
     return names;
+}
+
+void show_drive(ListBox& list, const std::string& folder) {
+    list.set_items(drives());
+    std::error_code nowhere;
+    list.show_item(std::filesystem::absolute(folder, nowhere).root_path().string());
 }
 
 void show_choice(FrmFileList& form, bool shown) {

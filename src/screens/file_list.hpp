@@ -13,6 +13,9 @@ namespace kolvar {
 // Names of a folder's files, sorted, the first 1000 of them; nothing when the folder can't be read.
 std::optional<std::vector<std::string>> files_of_folder(const std::string& folder);
 
+// The drives of the machine, and the one of this folder chosen.
+void show_drive(ListBox& list, const std::string& folder);
+
 // Fills the grid of the list window by ListMode: a new list with the marks that its names tell (0), the master file as
 // it stands on the disk (1, 2). A fault of the master file leaves the grid as it was.
 void Update_Flex2(Context& context);

@@ -21,15 +21,6 @@ std::vector<std::string> counted(int last) {
     return items;
 }
 
-std::vector<std::string> drives() {
-    std::vector<std::string> roots{"/"};
-    for (char letter = 'A'; letter <= 'Z'; ++letter) roots.push_back(std::string(1, letter) + ":\\");
-    std::erase_if(roots, [](const std::string& root) {
-        return !std::filesystem::path(root).is_absolute() || !folder_exists(root);
-    });
-    return roots;
-}
-
 // While a new list is made, the strip of the batch in work rests, and its drift plot closes: they would save into the
 // new list. Closing the list window goes back to that batch.
 void rest_running_batch(Context& context) {
@@ -49,17 +40,13 @@ void go_back_to_running_batch(Context& context) {
     if (context.forms.frm2_UP.shown) show_sequence(context);
 }
 
-void show_drive(FrmFileList& form) {
-    form.Drive1.show_item(std::filesystem::absolute(form.Dir1.text).root_path().string());
-}
-
 void show_files(Context& context, const std::string& folder, const std::vector<std::string>& files) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
     rest_running_batch(context);
     std::string path = native_path(folder);
     form.Dir1.text = form.lblPath.text = path;
-    show_drive(form);
+    show_drive(form.Drive1, form.Dir1.text);
     while (path.size() > 1 && file_name(path).empty()) path = folder_of(path);
     // So named, the master file stands before the data files of its folder.
     rs.MasterPath = join_path(path, "0-" + file_name(path) + ".msf");
@@ -258,9 +245,8 @@ void open_file_list(Context& context) {
         std::vector<std::string> standards;
         for (int k = 1; k <= rs.setNumSTD.whole(); ++k) standards.push_back(rs.Std_Name(k).text());
         form.comboStd.set_items(standards);
-        form.Drive1.set_items(drives());
         if (form.Dir1.text.empty()) form.Dir1.text = native_path(rs.AppPath2.empty() ? rs.WorkPath : rs.AppPath2);
-        show_drive(form);
+        show_drive(form.Drive1, form.Dir1.text);
     }
     Update_Flex2(context);
     form.just_opened = true;

@@ -21,6 +21,7 @@ void open_folder_window(Context& context) {
     const bool sequence = chooses_sequence(context.rs);
     form.Dir1.text = native_path(context.rs.WorkPath.empty() ? context.rs.AppPath1 : context.rs.WorkPath);
     form.lblPath.text = form.Dir1.text;
+    show_drive(form.Drive1, form.Dir1.text);
     form.lblAdvice.visible = form.cmdSave.visible = !sequence;
     form.List1.visible = form.FlexGrid2.visible = form.cmdOK.visible = form.cmdProc.visible = sequence;
     form.List1.set_items({});
@@ -28,20 +29,36 @@ void open_folder_window(Context& context) {
     form.FlexGrid2.touch();
 }
 
-void list_files(Context& context, const std::string& folder) {
+void list_files(Context& context, const std::string& folder, const std::vector<std::string>& files) {
     RunState& rs = context.rs;
-    const auto files = files_of_folder(folder);
-    if (!files) fail(FaultKind::file_unreadable, folder);
     rs.MasterDir = join_path(folder, "");
-    context.forms.frm_ChoseDir.List1.set_items(*files);
+    context.forms.frm_ChoseDir.List1.set_items(files);
     for (int i = 1; i <= MaxListed; ++i) rs.FileNames(i).clear();
-    for (std::size_t i = 0; i < files->size(); ++i) rs.FileNames(static_cast<int>(i) + 1) = (*files)[i];
+    for (std::size_t i = 0; i < files.size(); ++i) rs.FileNames(static_cast<int>(i) + 1) = files[i];
 }
 
-void choose_folder(Context& context, const std::string& folder) {
-    FrmChoseDir& form = context.forms.frm_ChoseDir;
-    if (chooses_sequence(context.rs)) list_files(context, folder);
+void show_folder(FrmChoseDir& form, const std::string& folder) {
     form.Dir1.text = form.lblPath.text = native_path(folder);
+    show_drive(form.Drive1, form.Dir1.text);
+}
+
+void Dir1(Context& context, const std::string& folder) {
+    if (chooses_sequence(context.rs)) {
+        const auto files = files_of_folder(folder);
+        if (!files) fail(FaultKind::file_unreadable, folder);
+        list_files(context, folder, *files);
+    }
+    show_folder(context.forms.frm_ChoseDir, folder);
+}
+
+// A drive without a disk is passed over.
+void Drive1(Context& context) {
+    FrmChoseDir& form = context.forms.frm_ChoseDir;
+    const std::string root = form.Drive1.text;
+    const auto files = files_of_folder(root);
+    if (!files) return;
+    if (chooses_sequence(context.rs)) list_files(context, root, *files);
+    show_folder(form, root);
 }
 
 // The files in the order of their names, standards by the mark in the name.
@@ -107,7 +124,8 @@ void connect_folder_window(Program& program) {
     Context& context = program.context();
     const FrmChoseDir& form = context.forms.frm_ChoseDir;
     program.shell().set_hooks(form, {[&context] { open_folder_window(context); }, {}});
-    program.on(form, "Dir1", EventKind::choose, [&context](const Event& event) { choose_folder(context, event.text); });
+    program.on(form, "Dir1", EventKind::choose, [&context](const Event& event) { Dir1(context, event.text); });
+    program.on(form, "Drive1", EventKind::choose, [&context](const Event&) { Drive1(context); });
     const auto click = [&](const std::string& control, void (*handler)(Context&)) {
         program.on(form, control, EventKind::click, [&context, handler](const Event&) { handler(context); });
     };

@@ -41,6 +41,8 @@ void move_in_list(Context& context, int step) {
         }
         rs.SeqPos = step > 0 ? 0 : rs.SeqCount + 1;
     } while (passed_over(rs, rs.SeqPos));
+    // The data at hand are of the line before until the next file is there.
+    form.cmdSaveAnd(0).enabled = form.cmdSaveAnd(1).enabled = false;
     rs.NextFile = rs.MasterRecs(rs.SeqPos, 0).text();
     Sequence_next(context);
 }
@@ -82,6 +84,9 @@ void save_and_move(Context& context, int step) {
 
 bool can_save_line(const RunState& rs) {
     if (!in_list(rs, rs.SeqPos) || !read_to_its_end(rs)) return false;
+    if (rs.MasterRecs(rs.SeqPos, 0).text().empty()) return false;
+    // A file that was opened beside the list has no line in it.
+    if (!rs.NextFile.empty() && rs.NextFile != rs.DataFileName) return false;
     return !passed_over(rs, rs.SeqPos);
 }
 

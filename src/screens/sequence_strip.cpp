@@ -28,8 +28,14 @@ void show_samples(const RunState& rs, Frm2UP& form) {
         rs.SeqSamDone == rs.SeqCount ? " / ALL DONE" : " / " + std::to_string(rs.SeqSamDone - rs.SeqStdCount) + " done";
 }
 
+// There are lines to walk through, and no other list is being made in their place.
+bool has_list(const RunState& rs, const Frm2UP& form) {
+    return form.pictSeq.enabled && rs.SeqCount > 0 && !rs.MasterRecs(1, 0).text().empty();
+}
+
 // The way to the interpolation opens with the move that follows the last standard, and stays open until it was taken.
 void show_phase(RunState& rs, Frm2UP& form) {
+    if (!has_list(rs, form)) return;
     if (rs.SeqStdDone == rs.SeqStdCount && rs.MasterRecs(1, 5).text().empty()) rs.SeqPhase = 2;
     if (rs.SeqPhase == 2) form.cmdInterpolation.visible = true;
 }

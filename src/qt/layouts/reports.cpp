@@ -81,9 +81,12 @@ void lay_out_folder(FormWindow& window, const FrmChoseDir& f) {
     wrapping(window, f.lblAdvice).setMinimumWidth(460);
     value_field(window, f.lblPath);
     whole->addWidget(window.of(f.lblAdvice));
+    auto* drive = row_of(window, {&f.Drive1});
+    drive->addStretch(1);
+    whole->addLayout(drive);
     whole->addWidget(window.of(f.Dir1), 1);
     whole->addWidget(window.of(f.lblPath));
-    whole->addLayout(row_of(window, {&f.Drive1, &f.List1}, 1));
+    whole->addWidget(window.of(f.List1));
     whole->addWidget(window.of(f.FlexGrid2), 1);
     whole->addLayout(button_row(window, {&f.cmdOK, &f.cmdProc}, {&f.cmdSave, &f.cmdCancel}));
     window.set_default_buttons({&f.cmdSave, &f.cmdOK});

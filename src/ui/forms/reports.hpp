@@ -45,8 +45,8 @@ struct FrmOmit : Form {
 
 struct FrmChoseDir : Form {
     FrmChoseDir() : Form("frm_ChoseDir", "KOLVAR  -  StartKit directory") {
-        // The folder tree shows all drives; what belongs to a sequence of files comes with the U/Pb path.
-        Drive1.visible = List1.visible = FlexGrid2.visible = cmdOK.visible = cmdProc.visible = false;
+        // What belongs to a sequence of files comes with the U/Pb path.
+        List1.visible = FlexGrid2.visible = cmdOK.visible = cmdProc.visible = false;
     }
 
     Label lblAdvice{*this, "lblAdvice",

@@ -28,6 +28,26 @@ TEST_F(FolderSequence, ListsTheFilesOfTheFolder) {
     EXPECT_EQ(chooser().cmdProc.text, "Process");
 }
 
+TEST_F(FolderSequence, TheDriveMovesTheFolderToItsRoot) {
+    open_on_day();
+    EXPECT_TRUE(chooser().Drive1.visible);
+    EXPECT_EQ(chooser().Drive1.text, "/");
+    ProgramOnKit::choose(chooser(), "Drive1", "/");
+    EXPECT_EQ(chooser().Dir1.text, "/");
+    EXPECT_EQ(chooser().lblPath.text, "/");
+    EXPECT_EQ(rs().MasterDir, "/");
+    for (const std::string& name : chooser().List1.items) EXPECT_NE(name, "01-STD.csv");
+}
+
+TEST_F(FolderSequence, ADriveWithoutADiskIsPassedOver) {
+    open_on_day();
+    chooser().Drive1.set_items({"/", "/no/such/drive"});
+    ProgramOnKit::choose(chooser(), "Drive1", "/no/such/drive");
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_EQ(chooser().lblPath.text, folder.path("day"));
+    EXPECT_EQ(rs().MasterDir, day(""));
+}
+
 TEST_F(FolderSequence, MarksTheStandardsByName) {
     open_on_day();
     click(chooser(), "cmdOK");

@@ -157,6 +157,27 @@ TEST_F(Strip, IsThereAgainAfterTheWayBackAndForth) {
     EXPECT_EQ(file(), "b.csv");
 }
 
+TEST_F(Strip, WithoutAMasterFileNoInterpolationIsOfferedAndNothingIsSaved) {
+    folder.write("day/0-day.msf", "a day's work");
+    program->start(1);
+    rs().setFormer_Sel = 0;
+    table("a.csv");
+    click(forms().frm1_Settings, "cmdCreate");
+    ProgramOnKit::choose(forms().frm_FileList, "Dir1", folder.path("day"));
+    ASSERT_EQ(rs().MasterPath, day("0-day.msf"));
+    forget_boxes();
+    click(forms().frm_FileList, "cmdClose");
+    rs().HgChosen = true;
+    click(forms().frm1_Settings, "cmdOK1");
+    ASSERT_TRUE(form().pictSeq.visible);
+    EXPECT_FALSE(form().cmdInterpolation.visible);
+    EXPECT_EQ(rs().SeqPhase, 0);
+    next();
+    mark_all();
+    EXPECT_TRUE(cannot_save());
+    EXPECT_EQ(folder.read("day/0-day.msf"), "a day's work");
+}
+
 TEST_F(Strip, TheSequentialChoiceOpensTheListBesideTheStartPanel) {
     program->start(1);
     Frm1Settings& panel = forms().frm1_Settings;
