@@ -25,6 +25,7 @@ constexpr int above_plots = 270;          // room for the mark of the signal
 constexpr int sequence_right = 180;       // between the strip of a sequence and the edge of the window
 constexpr int interpolation_left = 7215;  // within the strip
 constexpr int scale_labels = 750;
+constexpr int second_end = 1200;      // of the scale, above the plot
 constexpr int strip_width = 2550;     // scales, copies, the way
 constexpr int results_height = 3900;  // of all that stands below the plots
 constexpr int ratios_height = 3700;   // the panel of the ratios alone
@@ -61,8 +62,7 @@ void lay_out_up_window(Context& context) {
     place_plot(form.pict2, left, head + height + between_plots, form.pict1.width, height);
     place_upper_scale(form, left - scale_labels, scale_labels - 60);
     // The end of the scale once more, at the right end of the plot, where the zoom bar stands.
-    place(form.lblMaxCps2, left + form.pict1.width - form.lblMaxCps2.width, head - label_height - 15,
-          form.lblMaxCps2.width, label_height);
+    place(form.lblMaxCps2, left + form.pict1.width - second_end, head - label_height - 15, second_end, label_height);
     place_around_plots(form);
     form.lblBeam_St.height = label_height;
     for (Label* limit : {&form.lblBestLow, &form.lblBestUpp}) {

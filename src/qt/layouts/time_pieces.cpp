@@ -17,8 +17,10 @@ QString under_pointer(const RunState& rs, const Picture& picture, QPointF at, bo
     if (rs.nSlices < 1 || picture.width < 1 || picture.height < 1) return {};
     const int slice = static_cast<int>(std::floor(at.x() / picture.width * rs.nSlices + 0.5));
     QString text = QStringLiteral("Slice %1").arg(slice);
-    const double end = upper ? rs.MaxCps : rs.MaxRatio;
     const bool logarithmic = upper && !rs.LinearView;
+    double end = upper ? rs.MaxCps : rs.MaxRatio;
+    // The drawing of the U/Pb and FLEX signals leaves the end itself in the cell, the other one its logarithm.
+    if (logarithmic && rs.Method != 0 && end > 0) end = std::log(end);
     if (!(end > 0)) return text;
     const double height = (picture.height - at.y()) / picture.height * (end / 0.9);
     const double value = logarithmic ? std::exp(height) : height;

@@ -35,6 +35,7 @@ protected:
         for (int i = 9; i <= 15; ++i) form.lblFLEXiso(i).visible = false;
         form.lblAge06_38.text = form.lblAge07_35.text = "4321";
         form.lblConcord1.text = "1.04";
+        form.lblMaxCps2.text = "1200000000";
         form.lblOM.text = "123 / 1500";
         form.lblImprove.text = "-100 %";
         form.lblExplain.text = "reduction of residual error";

@@ -290,6 +290,22 @@ TEST_F(UserEvents, LogarithmicScaleIsReadBackUnderThePointer) {
     EXPECT_EQ(window(f).findChild<QLabel*>("status")->text().simplified(), "Slice 50 1e+06 cps");
 }
 
+TEST_F(UserEvents, LogarithmicScaleOfTheUraniumLeadSignalsIsReadBackUnderThePointer) {
+    Frm2UP& f = forms.frm2_UP;
+    RunState& rs = program.state();
+    rs.Method = 1;
+    rs.nSlices = 100;
+    rs.MaxCps = 1e6;  // as the draw leaves it
+    rs.LinearView = false;
+    f.pict1.place(4500, 1200);
+    f.pict1.width = 9000;
+    f.pict1.height = 3000;
+    show(f);
+    // 110 of 200 pixels above the lower edge, the scale ends at 180: 10^(6 x 110 / 180) = 4642.
+    move_to(*desktop.widget(f.pict1), {300, 90});
+    EXPECT_EQ(window(f).findChild<QLabel*>("status")->text().simplified(), "Slice 50 4642 cps");
+}
+
 TEST_F(UserEvents, NameOfAnIsotopeCanBeDroppedOnARatio) {
     Frm2Time& f = forms.frm2_Time;
     f.chkIs(4).visible = true;
