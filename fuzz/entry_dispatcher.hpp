@@ -1,6 +1,8 @@
 // The whole program without its surface: the bytes are what a user does and answers.
 #pragma once
 
+#include <algorithm>
+
 #include "entries.hpp"
 #include "screens/program.hpp"
 #include "support/random_user.hpp"
@@ -52,6 +54,38 @@ inline void make_wild(const Control& control, test::Choices& choices, Event& eve
     if (event.kind == EventKind::resize) event.x = std::abs(event.x), event.y = std::abs(event.y);
 }
 
+// Deep in the program: the file chosen, blank and signal marked.
+inline void go_to_marked_selection(Program& program, test::RandomPlatform& os, int method) {
+    const auto click = [&](const char* control, int index) {
+        Event event;
+        event.window = "frm1_Settings";
+        event.control = control;
+        event.index = index;
+        program.dispatch(event);
+    };
+    if (method == 0) {
+        click("cmdOK", -1);
+        click("cmdNext", -1);
+    } else {
+        os.opens = {os.kit() + (method == 1 ? "/001-std-91500.csv" : "/0-FLEX-UT19-50.xl")};
+        click("mnuFile", 0);
+    }
+    Event mark;
+    mark.window = method == 0 ? "frm2_Time" : "frm2_UP";
+    mark.control = "pict1";
+    const int width = program.forms().find(mark.window)->find("pict1")->width;
+    for (const int slice : {5, 45, 60, 100}) {
+        mark.shift = slice < 50 ? 1 : 0;
+        mark.button = slice == 5 || slice == 60 ? 1 : 2;
+        mark.kind = EventKind::press;
+        mark.x = static_cast<double>(width) * slice / std::max(program.state().nSlices, 1);
+        program.dispatch(mark);
+        mark.kind = EventKind::release;
+        program.dispatch(mark);
+    }
+    require(program.shell().active() == program.forms().find(mark.window));
+}
+
 // Whatever is done, the program goes on with a window, or has ended because a window was closed; each fault was told
 // and no operation is left running.
 inline void dispatcher(Bytes bytes) {
@@ -81,6 +115,7 @@ inline void dispatcher(Bytes bytes) {
     const std::vector<std::string> folders{kit.string(), folder.path(), folder.path() + "/none"};
     Program program(os, kit.string());
     program.start(method);
+    if (choices.one_in(2)) go_to_marked_selection(program, os, method);
     constexpr int most_events = 600;
     for (int done = 0; done < most_events && !choices.at_end() && !program.ended(); ++done) {
         const std::vector<Form*>& shown = program.shell().shown();
@@ -88,7 +123,8 @@ inline void dispatcher(Bytes bytes) {
         const Form& form = choices.one_in(8) ? *choices.one_of(shown) : *shown.back();
         std::vector<const Control*> usable;
         for (const Control* control : form.controls)
-            if (control->reachable() && control->usable()) usable.push_back(control);
+            if (control->reachable() && control->usable())
+                usable.insert(usable.end(), control->kind == ControlKind::button ? 6U : 1U, control);
         Event event;
         event.window = form.name;
         event.kind = EventKind::close;
