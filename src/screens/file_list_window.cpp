@@ -40,6 +40,18 @@ void go_back_to_running_batch(Context& context) {
     if (context.forms.frm2_UP.shown) show_sequence(context);
 }
 
+// The count may still be that of a master file which was read since: it is again that of the new list, or of the files
+// of the folder while these are not yet accepted.
+void count_new_list(RunState& rs) {
+    const auto filled = [](const auto& names) {
+        int count = 0;
+        while (count < MaxListed && !names(count + 1).empty()) ++count;
+        return count;
+    };
+    rs.SeqCount = filled(rs.FileOrdered);
+    if (rs.SeqCount == 0) rs.SeqCount = filled(rs.FileNames);
+}
+
 void show_files(Context& context, const std::string& folder, const std::vector<std::string>& files) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
@@ -161,8 +173,10 @@ void cmdBack(Context& context) {
     constexpr int width_of_choice = 7500;  // twips
     FrmFileList& form = context.forms.frm_FileList;
     rest_running_batch(context);
+    const bool showed_master = context.rs.ListMode != 0;
     context.rs.ListMode = 0;
     clear_list(context);
+    if (showed_master) count_new_list(context.rs);
     form.lblTitle.text.clear();
     form.FlexGrid2.text.clear();
     show_choice(form, true);
@@ -234,7 +248,10 @@ void open_file_list(Context& context) {
     RunState& rs = context.rs;
     FrmFileList& form = context.forms.frm_FileList;
     const Running running(rs, "open_file_list");
-    if (rs.ListMode == 0) rest_running_batch(context);
+    if (rs.ListMode == 0) {
+        rest_running_batch(context);
+        count_new_list(rs);
+    }
     if (form.width == 0) form.width = 18000, form.height = 10500;  // room for the table on a small screen
     if (rs.ListMode == 0 || rs.ListMode == 1) {
         form.Combo1.set_items(counted(25));

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "batch/master_file.hpp"
 #include "core/files.hpp"
 #include "unit/screens/program_fixture.hpp"
 
@@ -364,6 +365,21 @@ TEST_F(OpenedMaster, AMasterFileThatIsGoneLeavesTheListClosed) {
     ASSERT_EQ(os.boxes.size(), 1U);
     EXPECT_EQ(os.boxes[0].kind, "fault");
     EXPECT_EQ(shown_windows().back(), "frm1_Settings");
+}
+
+TEST_F(OpenedMaster, ANewListIsNotCountedByTheMasterFileReadSince) {
+    order({"1-std.csv", "2-std.csv", "3-x.csv", "4-x.csv"}, 0, "1");
+    click(form(), "cmdClose");
+    write_master();
+    ReadMaster(rs(), rs().MasterPath);
+    ASSERT_EQ(rs().SeqCount, 3);
+    click(forms().frm1_Settings, "cmdCreate");
+    EXPECT_EQ(column(0), (Names{"1-std.csv", "2-std.csv", "3-x.csv", "4-x.csv"}));
+    rs().ListMode = 2;
+    ReadMaster(rs(), rs().MasterPath);
+    click(form(), "cmdBack");
+    click(form(), "cmdAccept");
+    EXPECT_EQ(column(0), (Names{"1-std.csv", "2-std.csv", "3-x.csv", "4-x.csv"}));
 }
 
 TEST_F(OpenedMaster, ANewListLeavesTheBatchInWorkAsItIs) {
