@@ -8,6 +8,7 @@
 namespace kolvar {
 namespace {
 
+// Titles and names are read as they stand: a head "007" of a data file finds its row.
 RecordReader open_records(const std::string& path) { return {to_text(read_bytes(path)), path}; }
 
 // STC and DWE are named in the settings: the box tells how to put a wrong name right there.
@@ -47,12 +48,12 @@ void LoadSTC(RunState& rs, Platform& os) {
     guarded(
         [&] {
             RecordReader records = open_records(rs.STCfilePath);
-            rs.STCtitle = records.text_field();
+            rs.STCtitle = records.verbatim_field();
             rs.LineBuf = records.text_field();
             rs.LineBuf = records.text_field();
             int i = 1;
             for (; !records.at_end(); ++i) {
-                rs.STCiso(i) = records.text_field();
+                rs.STCiso(i) = records.verbatim_field();
                 rs.STCcc(i) = records.number_field();
                 rs.STCerr(i) = records.number_field();
             }
@@ -68,11 +69,11 @@ void LoadDWE(RunState& rs, Platform& os) {
     guarded(
         [&] {
             RecordReader records = open_records(rs.DWEfilePath);
-            rs.DWEtitle = records.text_field();
+            rs.DWEtitle = records.verbatim_field();
             rs.LineBuf = records.text_field();
             int i = 1;
             for (; !records.at_end(); ++i) {
-                rs.DWEiso(i) = records.text_field();
+                rs.DWEiso(i) = records.verbatim_field();
                 rs.DWEms(i) = records.number_field();
             }
             rs.nDWE = i - 1;
@@ -88,7 +89,7 @@ void LoadSTM(RunState& rs, Platform& os) {
             RecordReader records = open_records(rs.STMfilePath);
             int i = 1;
             for (; !records.at_end(); ++i) {
-                rs.STMiso(i) = records.text_field();
+                rs.STMiso(i) = records.verbatim_field();
                 rs.STMcps(i) = records.number_field();
                 rs.STMsd(i) = records.number_field();
                 // A standard without counts would divide by zero later; its error goes with it.
@@ -110,7 +111,7 @@ void LoadBLK(RunState& rs, Platform& os) {
             RecordReader records = open_records(rs.BLKfilePath);
             int i = 1;
             for (; !records.at_end(); ++i) {
-                rs.BLKiso(i) = records.text_field();
+                rs.BLKiso(i) = records.verbatim_field();
                 rs.BLKmean(i) = records.number_field();
                 rs.BLKsd(i) = records.number_field();
             }

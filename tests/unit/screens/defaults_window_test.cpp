@@ -40,6 +40,13 @@ TEST_F(DefaultsWindow, OpensFromTheStartWindowAndItsMenus) {
     }
 }
 
+TEST_F(DefaultsWindow, ModifyDefaultsOpensTheWindowOfAgesAlsoOnTheThirdPath) {
+    program->start(3);
+    ASSERT_EQ(rs().Method, 3);
+    click(forms().frm1_Settings, "mnuDefault", 1);
+    EXPECT_EQ(shown_windows(), (Names{"frm1_Settings", "frm_SetUP"}));
+}
+
 TEST_F(DefaultsWindow, OpensOverTheScreenOfThePathInUse) {
     program->start(1);
     click(forms().frm1_Settings, "cmdOK1");

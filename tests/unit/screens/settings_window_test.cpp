@@ -385,6 +385,37 @@ TEST_F(SettingsWindow, ANewDataFileFillsTheListsAndACancelledDialogChangesNothin
     EXPECT_EQ(os.dialogs.back().index, 5);
 }
 
+TEST_F(SettingsWindow, MenuEntriesOfTheReferenceFilesDoAsTheirBrowseButtons) {
+    start();
+    const std::string composition = folder.write("own.stc", "\"Own glass\",\"ppm\",\"ppm\"\r\n\"Si29\",100,1\r\n");
+    const std::string measured = folder.write("own.stm", "\"Si29\",1000,1\r\n\"Ca43\",5,1\r\n");
+    os.opens = {composition, measured};
+    EXPECT_EQ(box_after("mnuFile", 1), "");
+    EXPECT_EQ(os.dialogs.back().filter, "All Files (*.*)|*.*|Standard Composition Files (*.stc)|*.stc");
+    EXPECT_EQ(rs().nSTC, 1);
+    EXPECT_EQ(form().lblSTC.text, "  own.stc  ");
+    EXPECT_EQ(box_after("mnuFile", 2), "");
+    EXPECT_EQ(os.dialogs.back().filter,
+              "All Files (*.*)|*.*|Standard Measurement Files (*.stm)|*.stm|Standard Measurements - Interpolated "
+              "(*.sti)|*.sti");
+    EXPECT_EQ(rs().nSTM, 2);
+    EXPECT_EQ(form().lblSTM.text, "  own.stm  ");
+}
+
+TEST_F(SettingsWindow, TheListsShowNoStandardWhileAFileIsBeingTakenIn) {
+    start();
+    click(form(), "cmdOK");
+    rs().PlotOn = 1;
+    click(form(), "mnuSettings", 3);
+    close(forms().frm_ChoseDir);  // the window becomes the active one again
+    EXPECT_EQ(form().comboIso.items.size(), 25U);
+    EXPECT_EQ(form().comboIso.text, "");
+    rs().PlotOn = 0;
+    click(form(), "mnuSettings", 3);
+    close(forms().frm_ChoseDir);
+    EXPECT_EQ(form().comboIso.text, "Si29");
+}
+
 TEST_F(SettingsWindow, LoadedSettingsBringTheirCompositionFileAndNothingElse) {
     start();
     std::filesystem::copy_file(kit("Kolvar-default-h.set"), kit("mine.set"));

@@ -91,6 +91,19 @@ TEST_F(ReferenceFiles, FieldsCountAndNotLines) {
     EXPECT_EQ(rs.STCerr(2), 31);
 }
 
+TEST_F(ReferenceFiles, TitlesAndNamesThatLookLikeNumbersAreReadAsTheyStand) {
+    load_stc("2004.10,a,b\r\n007,468,24\r\n");
+    EXPECT_EQ(rs.STCtitle, "2004.10");
+    EXPECT_EQ(rs.STCiso(1), "007");
+    load_dwe("  1E3  ,ms\r\n29.0,10\r\n");
+    EXPECT_EQ(rs.DWEtitle, "1E3");
+    EXPECT_EQ(rs.DWEiso(1), "29.0");
+    load_stm("+7,5,1\r\n");
+    EXPECT_EQ(rs.STMiso(1), "+7");
+    load_blk("#TRUE#,5,1\r\n");
+    EXPECT_EQ(rs.BLKiso(1), "#TRUE#");
+}
+
 TEST_F(ReferenceFiles, AZeroOfAStandardMeasurementBecomesSmallAndItsErrorGoesToo) {
     load_stm("\"Li7\",0,55\r\n\"Si29\",-1,0\r\n\"Ca43\",text,3\r\n");
     ASSERT_EQ(rs.nSTM, 3);
