@@ -57,9 +57,9 @@ void Sequence_next(Context& context) {
     if (rs.NextFile.empty()) return;
     load_listed_file(context, rs.NextFile);
     if (refused_for_missing_isotopes(context)) {
-        // The report leads back to the start panel, from where the list can be opened again.
-        context.shell.close(context.forms.frm1_Settings);
-        return context.shell.close(context.forms.frm2_UP);
+        // The screen stays below the report, so that the walk can go on over this file.
+        for (Button& button : context.forms.frm2_UP.cmdSaveAnd) button.enabled = false;
+        return context.shell.close(context.forms.frm1_Settings);
     }
     if (asked_about_mercury(context)) {
         // Out of the way until the question is answered, and then as it was.

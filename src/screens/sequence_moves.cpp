@@ -5,6 +5,7 @@
 #include "batch/master_file.hpp"
 #include "import/data_file.hpp"
 #include "screens/sequence.hpp"
+#include "screens/uranium_lead_files.hpp"
 
 namespace kolvar {
 
@@ -83,7 +84,7 @@ void save_and_move(Context& context, int step) {
 }  // namespace
 
 bool can_save_line(const RunState& rs) {
-    if (!in_list(rs, rs.SeqPos) || !read_to_its_end(rs)) return false;
+    if (!in_list(rs, rs.SeqPos) || !read_to_its_end(rs) || lacks_isotopes(rs)) return false;
     if (rs.MasterRecs(rs.SeqPos, 0).text().empty()) return false;
     // A file that was opened beside the list has no line in it.
     if (!rs.NextFile.empty() && rs.NextFile != rs.DataFileName) return false;

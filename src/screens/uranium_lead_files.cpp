@@ -91,9 +91,12 @@ void choose_hg(Context& context, std::size_t which, Form& next) {
 
 }  // namespace
 
+bool lacks_isotopes(const RunState& rs) {
+    return rs.ColPb206 == 0 || rs.ColPb207 == 0 || rs.ColPb208 == 0 || rs.ColU238 == 0;
+}
+
 bool refused_for_missing_isotopes(Context& context) {
-    const RunState& rs = context.rs;
-    if (rs.ColPb206 != 0 && rs.ColPb207 != 0 && rs.ColPb208 != 0 && rs.ColU238 != 0) return false;
+    if (!lacks_isotopes(context.rs)) return false;
     context.shell.open(context.forms.frm_Missing_UPb);
     return true;
 }

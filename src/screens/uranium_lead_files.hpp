@@ -6,7 +6,10 @@
 
 namespace kolvar {
 
-// True when a column that every ratio needs is missing; frm_Missing_UPb was opened then.
+// A column is missing that every result needs.
+bool lacks_isotopes(const RunState& rs);
+
+// True when the data lack isotopes; frm_Missing_UPb was opened then.
 bool refused_for_missing_isotopes(Context& context);
 
 // True when the data hold several Hg isotopes on the U/Pb path; frm_Hg_isot was opened then.

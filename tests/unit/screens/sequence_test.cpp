@@ -419,17 +419,36 @@ TEST_F(Walk, AMasterFileThatCannotBeReadLeavesModeAndListAsTheyWere) {
     EXPECT_EQ(rs().MasterRecs(4, 0).text(), "d.csv");
 }
 
-TEST_F(Walk, AFileWithoutTheIsotopesLeadsBackToTheStart) {
+TEST_F(Walk, AFileWithoutTheIsotopesIsReportedAndTheWalkCanGoOnOverIt) {
+    write_day("0005/0000/0003/0000", five());
+    folder.write("day/b.csv", "Si29,U238\n1,2\n3,4\n");
+    go_to_day();
+    mark_all();
+    next();
+    EXPECT_EQ(shown_windows(), (Names{"frm2_UP", "frm_Missing_UPb"}));
+    click(forms().frm_Missing_UPb, "cmdSorry");
+    EXPECT_EQ(shown_windows(), (Names{"frm2_UP", "frm1_Settings"}));
+    EXPECT_FALSE(rs().HgChosen);
+    EXPECT_TRUE(forms().frm1_Settings.cmdOpenMaster.enabled);
+    // Nothing of such a file can be saved, whatever is marked in it.
+    EXPECT_FALSE(form().cmdSaveAnd(1).enabled);
+    mark_all();
+    EXPECT_FALSE(form().cmdSaveAnd(1).enabled);
+    next();
+    EXPECT_EQ(shown_windows(), Names{"frm2_UP"});
+    EXPECT_EQ(file(), "d.csv");
+    EXPECT_TRUE(rs().HgChosen);
+    EXPECT_TRUE(form().pictSeq.visible);
+}
+
+TEST_F(Walk, AfterAFileWithoutTheIsotopesTheListCanBeOpenedAgain) {
     write_day("0005/0000/0002/0000", five());
     folder.write("day/b.csv", "Si29,U238\n1,2\n3,4\n");
     go_to_day();
     next();
-    EXPECT_EQ(shown_windows(), Names{"frm_Missing_UPb"});
     click(forms().frm_Missing_UPb, "cmdSorry");
-    EXPECT_EQ(shown_windows(), Names{"frm1_Settings"});
-    EXPECT_FALSE(rs().HgChosen);
-    EXPECT_TRUE(forms().frm1_Settings.cmdOpenMaster.enabled);
     open_master();
+    EXPECT_EQ(shown_windows(), Names{"frm2_UP"});
     EXPECT_EQ(file(), "a.csv");
     EXPECT_TRUE(rs().HgChosen);
     EXPECT_TRUE(form().pictSeq.visible);
