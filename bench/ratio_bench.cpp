@@ -22,18 +22,9 @@ using test::SilentPlatform;
 struct Click {
     Click() {
         set_start_values(rs);
-        plain::simulate_run(rs, 10, 6000, 1990);
-        rs.Method = 1;
-        rs.ColHg = 10, rs.HgMass = 202, rs.ColPb204 = 5;
-        rs.ColPb206 = 1, rs.ColPb207 = 2, rs.ColPb208 = 3;
-        rs.ColTh232 = 4, rs.ColU235 = 6, rs.ColU238 = 7;
+        plain::simulate_uranium_run(rs, 6000, 1990);
         rs.SelLow = 2000, rs.SelUpp = 5999, rs.SelN = 4000, rs.SelNGood = 4000;
-        for (int i = 1; i <= rs.nIso; ++i) rs.BlkMean(i) = 20.0, rs.BlkSD(i) = 5.0;
-        rs.setAver = 0, rs.setMean_UP = 0, rs.setTzero = 1, rs.setErr = 2, rs.setErr_times = 2;
-        rs.UU8_5 = 137.818;
-        rs.Hg2_4 = 4.3607;
-        for (Value* dwell : {&rs.dweU238, &rs.dweU235, &rs.dweTh232, &rs.dwePb208, &rs.dwePb207, &rs.dwePb206})
-            *dwell = 0.01;
+        rs.setAver = 0, rs.setMean_UP = 0, rs.setTzero = 1;
         rs.setOL_68 = rs.setOL_76 = 1;
         Frm2UP& form = forms.frm2_UP;
         form.pict3.width = form.pict3.height = 4500;

@@ -18,15 +18,7 @@ using test::SilentPlatform;
 struct Screen {
     Screen(int method, int plot, int steps) : range(std::to_string(steps)) {
         set_start_values(rs);
-        plain::simulate_run(rs, 10, 6000, 1990);
-        rs.Method = 1;
-        rs.ColHg = 10, rs.HgMass = 202, rs.ColPb204 = 5;
-        rs.ColPb206 = 1, rs.ColPb207 = 2, rs.ColPb208 = 3;
-        rs.ColTh232 = 4, rs.ColU235 = 6, rs.ColU238 = 7;
-        for (int i = 1; i <= rs.nIso; ++i) rs.BlkMean(i) = 20.0, rs.BlkSD(i) = 5.0;
-        for (Value* dwell : {&rs.dweU238, &rs.dweU235, &rs.dweTh232, &rs.dwePb208, &rs.dwePb207, &rs.dwePb206})
-            *dwell = 0.01;
-        rs.setErr = 2, rs.setErr_times = 2, rs.UU8_5 = 137.818, rs.Hg2_4 = 4.3607;
+        plain::simulate_uranium_run(rs, 6000, 1990);
         rs.setBzzMethod = method, rs.setBzzPlot = plot;
         Frm2UP& form = forms.frm2_UP;
         form.chkHgCorr.value = 1;

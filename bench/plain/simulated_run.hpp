@@ -47,4 +47,17 @@ inline void simulate_run(RunState& rs, int columns, int slices, int blank, unsig
     }
 }
 
+// Ten columns of the U/Pb path, with all that its calculations ask of the settings and the blank.
+inline void simulate_uranium_run(RunState& rs, int slices, int blank) {
+    simulate_run(rs, 10, slices, blank);
+    rs.Method = 1;
+    rs.ColHg = 10, rs.HgMass = 202, rs.ColPb204 = 5;
+    rs.ColPb206 = 1, rs.ColPb207 = 2, rs.ColPb208 = 3;
+    rs.ColTh232 = 4, rs.ColU235 = 6, rs.ColU238 = 7;
+    for (int i = 1; i <= rs.nIso; ++i) rs.BlkMean(i) = 20.0, rs.BlkSD(i) = 5.0;
+    for (Value* dwell : {&rs.dweU238, &rs.dweU235, &rs.dweTh232, &rs.dwePb208, &rs.dwePb207, &rs.dwePb206})
+        *dwell = 0.01;
+    rs.setErr = 2, rs.setErr_times = 2, rs.UU8_5 = 137.818, rs.Hg2_4 = 4.3607;
+}
+
 }  // namespace kolvar::plain
