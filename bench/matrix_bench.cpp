@@ -111,6 +111,24 @@ void plain_deviation_on(benchmark::State& state) {
     }
     reset_rejection(whole().context);
 }
+void plain_min_max_on(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        reset_rejection(whole().context);
+        state.ResumeTiming();
+        plain::reject_extremes(whole().context);
+    }
+    reset_rejection(whole().context);
+}
+void plain_grubbs_on_100(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        reset_rejection(hundred().context);
+        state.ResumeTiming();
+        plain::reject_grubbs(hundred().context, 2);
+    }
+    reset_rejection(hundred().context);
+}
 void plain_fill_cps_deviations(benchmark::State& state) {
     for (auto _ : state) plain::fill_deviations(whole().context);
     FillTable(whole().context);
@@ -131,7 +149,9 @@ BENCHMARK(min_max_off)->Unit(benchmark::kMillisecond);
 BENCHMARK(deviation_on)->Unit(benchmark::kMillisecond);
 BENCHMARK(deviation_off)->Unit(benchmark::kMillisecond);
 BENCHMARK(plain_deviation_on)->Unit(benchmark::kMillisecond);
+BENCHMARK(plain_min_max_on)->Unit(benchmark::kMillisecond);
 BENCHMARK(grubbs_on_100)->Unit(benchmark::kMillisecond);
+BENCHMARK(plain_grubbs_on_100)->Unit(benchmark::kMillisecond);
 BENCHMARK(show_min_max_on)->Unit(benchmark::kMillisecond);
 BENCHMARK(show_deviation_on)->Unit(benchmark::kMillisecond);
 BENCHMARK(show_deviation_off)->Unit(benchmark::kMillisecond);

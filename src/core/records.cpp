@@ -1,5 +1,7 @@
 #include "core/records.hpp"
 
+#include <algorithm>
+
 #include "core/numbers.hpp"
 
 namespace kolvar {
@@ -131,7 +133,9 @@ RecordWriter& RecordWriter::field(const Value& value) {
     first_ = false;
     if (value.is_text()) {
         bytes_ += '"';
-        for (const char c : value.text()) bytes_ += c == '"' ? '\'' : c;
+        const std::size_t start = bytes_.size();
+        bytes_ += value.text();
+        std::replace(bytes_.begin() + static_cast<std::ptrdiff_t>(start), bytes_.end(), '"', '\'');
         bytes_ += '"';
     } else if (value.is_bool()) {
         bytes_ += value.number() != 0 ? "#TRUE#" : "#FALSE#";
