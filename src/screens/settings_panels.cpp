@@ -37,11 +37,33 @@ void show_panel(Frm1Settings& form, const Panel& panel, const char* title) {
     form.title = title;
 }
 
+// What the panel of the internal standards shows of files, blank and dwell time when it comes into view.
+void fill_file_choice(Context& context) {
+    RunState& rs = context.rs;
+    Frm1Settings& form = context.forms.frm1_Settings;
+    form.lblCSV.text = shown_name(rs.DataFileName);
+    form.lblSTC.text = shown_name(rs.STCfileName);
+    form.lblSTM.text = shown_name(rs.STMfileName);
+    form.lblBLK.text = shown_name(rs.BLKfileName);
+    form.lblDWE.text = shown_name(rs.DWEfileName);
+    form.txtDwell.text = decimal(rs.DwellUniform * 1000);
+    enable_choices(form, true);
+    (rs.BlankFromData == 1 ? form.optBfromData : form.optBLKfile).set_value_quietly(1);
+    (rs.DwellFromFile == 1 ? form.optDWEfile : form.optDweUni).set_value_quietly(1);
+    follow_mode(context);
+    // Of the groups of the blank and of the dwell time the controls of the option that isn't set can't be used.
+    if (rs.BlankFromData == 1) follow_blank(context);
+    if (rs.DwellFromFile != 1) follow_dwell(context);
+    form.txtDwell.enabled = rs.DwellFromFile != 1;
+}
+
 void activate_internal_standard(Context& context) {
     RunState& rs = context.rs;
     Frm1Settings& form = context.forms.frm1_Settings;
     show_panel(form, form.pict_IS, "KOLVAR  -  Step 1: File selection, internal standard");
     show({&form.cmdOK1, &form.cmdChooseUP, &form.cmdPaste1}, false);
+    // A default file has brought the panel into a window that opened with another one: no option is chosen yet.
+    if (!form.optDweUni.on() && !form.optDWEfile.on()) fill_file_choice(context);
     form.txtISppm.text = rs.IS1conc.text();
     form.txtISerr.text = rs.IS1err.text();
     form.txtISppm2.text = rs.IS2conc.text();
@@ -157,20 +179,7 @@ void open_settings_window(Context& context) {
     show({&form.mnuDef, &form.mnuSet, &form.mnuFile1, &form.mnuFile2}, true);
     if (rs.Method == 0) {
         form.mnuDef.visible = false;
-        form.lblCSV.text = shown_name(rs.DataFileName);
-        form.lblSTC.text = shown_name(rs.STCfileName);
-        form.lblSTM.text = shown_name(rs.STMfileName);
-        form.lblBLK.text = shown_name(rs.BLKfileName);
-        form.lblDWE.text = shown_name(rs.DWEfileName);
-        form.txtDwell.text = decimal(rs.DwellUniform * 1000);
-        enable_choices(form, true);
-        (rs.BlankFromData == 1 ? form.optBfromData : form.optBLKfile).set_value_quietly(1);
-        (rs.DwellFromFile == 1 ? form.optDWEfile : form.optDweUni).set_value_quietly(1);
-        follow_mode(context);
-        // Of the groups of the blank and of the dwell time the controls of the option that isn't set can't be used.
-        if (rs.BlankFromData == 1) follow_blank(context);
-        if (rs.DwellFromFile != 1) follow_dwell(context);
-        form.txtDwell.enabled = rs.DwellFromFile != 1;
+        fill_file_choice(context);
         if (rs.KeepData) Selection_Ready(context);
     } else if (rs.Method == 1 || rs.Method == 3) {
         form.title = rs.Method == 1 ? "Kolv-AGE  -  Start window" : "Kolv-FLEX  -  Start window";

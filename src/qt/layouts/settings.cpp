@@ -91,8 +91,17 @@ void lay_out_settings(FormWindow& window, const Frm1Settings& f) {
     standards->addLayout(
         button_row(window, {&f.cmdModiSet, &f.cmdSeq}, {&f.cmdOK, &f.cmdBack, &f.cmdNext, &f.cmdClose}));
 
-    window.body()->setLayout(column_of(window, {&f.pict_IS, &f.pict_UT, &f.pict_FLEX}));
-    window.body()->setMinimumSize(680, 420);  // also for the small panels
+    // The small panels have some room, too. None is smaller than its controls, so that the window grows with a panel
+    // that a file has brought in.
+    auto* panels = column_of(window, {&f.pict_IS, &f.pict_UT, &f.pict_FLEX});
+    panels->addStrut(662);
+    auto* all_panels = new QHBoxLayout(window.body());
+    all_panels->addLayout(panels);
+    all_panels->addStrut(402);
+    window.set_arranger([&window] {
+        window.body()->layout()->activate();
+        window.layout()->activate();
+    });
     window.of(f.lblVersion)->setContentsMargins(8, 3, 8, 3);
     window.menuBar()->setCornerWidget(window.of(f.lblVersion));
     window.set_default_buttons({&f.cmdNext, &f.cmdOK, &f.cmdOK1, &f.Command9});

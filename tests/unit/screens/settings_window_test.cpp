@@ -454,6 +454,25 @@ TEST_F(SettingsWindow, SettingsThatChangeTheMethodChangeThePanelAtOnce) {
     EXPECT_EQ(form().title, "Kolv-FLEX  -  Start window");
 }
 
+TEST_F(SettingsWindow, APanelThatADefaultFileBringsInShowsFilesBlankAndDwellTime) {
+    program->start(1);
+    ASSERT_EQ(form().txtDwell.text, "");
+    os.opens.push_back(KOLVAR_SOURCE_DIR "/tests/data/defaults/internal-standard.def");
+    EXPECT_EQ(box_after("cmdChooseSET"), "");
+    ASSERT_TRUE(form().pict_IS.visible);
+    EXPECT_EQ(form().lblCSV.text, "  test-01-no-Hg-235-232.csv  ");
+    EXPECT_EQ(form().txtDwell.text, "20");
+    EXPECT_TRUE(form().optDweUni.on() && form().optBLKfile.on());
+    EXPECT_TRUE(choice_of_files(true));
+    // What the user chooses then stays, whatever window comes and goes.
+    type(form(), "txtDwell", "15");
+    click(form(), "optBfromData");
+    click(form(), "cmdSeq");
+    click(forms().frm_Batch_IS, "cmdClose");
+    EXPECT_EQ(form().txtDwell.text, "15");
+    EXPECT_TRUE(form().optBfromData.on());
+}
+
 TEST_F(SettingsWindow, StepsOfThisPanelSetTheMethodBack) {
     start();
     rs().Method = 1;
