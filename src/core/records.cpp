@@ -132,6 +132,8 @@ RecordWriter& RecordWriter::field(const Value& value) {
     if (!first_) bytes_ += ',';
     first_ = false;
     if (value.is_text()) {
+        // A text longer than all before it, as a whole result table, with its two quotes and the line end.
+        if (value.text().size() > bytes_.capacity()) bytes_.reserve(bytes_.size() + value.text().size() + 4);
         bytes_ += '"';
         const std::size_t start = bytes_.size();
         bytes_ += value.text();
