@@ -183,6 +183,9 @@ void FormWindow::sync() {
     const bool former = syncing_;
     syncing_ = true;
     if (windowTitle() != shown(form_.title)) setWindowTitle(shown(form_.title));
+    // A panel that goes makes room before another one comes: with both in it the window would grow.
+    for (const Control* control : form_.controls)
+        if (control->kind == ControlKind::panel && !control->visible) of(*control)->hide();
     for (Control* control : form_.controls) {
         if (QWidget* const widget = of(*control)) sync_widget(*control, widget);
         if (QAction* const entry = action(*control)) sync_action(*control, entry);

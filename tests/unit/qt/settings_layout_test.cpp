@@ -33,6 +33,7 @@ TEST_F(SettingsLayout, GrowsWithThePanelThatAFileHasBroughtIn) {
     EXPECT_GT(window(form).height(), small.height());
     EXPECT_TRUE(desktop.widget(form.optData)->isVisible());
     expect_room_for_all();
+    EXPECT_LE(window(form).height(), window(form).sizeHint().height());  // and no more than that
     // Back to a small one it keeps the size, as a user's window does.
     const QSize large = window(form).size();
     show_panel(form.pict_UT);
