@@ -95,6 +95,9 @@ void activate_flex(Context& context) {
     show_panel(form, form.pict_FLEX, "Kolv-FLEX  -  Start window");
     form.cmdOK1.visible = true;
     form.lblFLEX.text = context.rs.DataFileName;
+    form.optBfromDataFLEX.set_value_quietly(1);
+    (context.rs.DwellFromFile == 1 ? form.optDWEfileFLEX : form.optDweUniFLEX).set_value_quietly(1);
+    form.txtDwellFLEX.text = decimal(context.rs.DwellUniform * 1000);
 }
 
 }  // namespace

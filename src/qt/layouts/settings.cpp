@@ -65,6 +65,13 @@ void lay_out_start_panels(FormWindow& window, const Frm1Settings& f) {
 
     auto* flex = new QVBoxLayout(window.of(f.pict_FLEX));
     flex->addLayout(row_of(window, {&f.lblFLEX, &f.Command15}, 0));
+    flex->addWidget(window.of(f.frameBlankFLEX));
+    window.of(f.frameBlankFLEX)->setLayout(column_of(window, {&f.optBfromDataFLEX, &f.optBLKfileFLEX}));
+    flex->addWidget(window.of(f.frameDwellFLEX));
+    auto* flex_dwell = new QVBoxLayout(window.of(f.frameDwellFLEX));
+    window.of(f.txtDwellFLEX)->setFixedWidth(80);
+    flex_dwell->addLayout(row_of(window, {&f.optDweUniFLEX, &f.txtDwellFLEX, &f.lblDweMSFLEX}));
+    flex_dwell->addWidget(window.of(f.optDWEfileFLEX));
     flex->addStretch(1);
     flex->addLayout(button_row(window, {}, {&f.Command9, &f.cmdExitFLEX}));
 }

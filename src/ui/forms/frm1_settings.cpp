@@ -21,7 +21,10 @@ Frm1Settings::Frm1Settings() : Form("frm1_Settings", "KOLVAR  -  Step 1: File se
     put_into(pict_UT,
              {&cmdIndividual, &cmdSequential, &cmdCreate, &cmdOpenMaster, &Command6, &cmdChooseSET, &lblUPset,
               &cmdSet_1, &lblCaptionUP, &lblCaptionSeq, &cmdChooseUP, &lblUP, &cmdPaste1, &cmdOK1, &cmdExitUP});
-    put_into(pict_FLEX, {&lblFLEX, &Command15, &Command9, &cmdExitFLEX});
+    put_into(pict_FLEX, {&lblFLEX, &Command15, &frameBlankFLEX, &frameDwellFLEX, &Command9, &cmdExitFLEX});
+    put_into(frameBlankFLEX, {&optBfromDataFLEX, &optBLKfileFLEX});
+    put_into(frameDwellFLEX, {&optDweUniFLEX, &txtDwellFLEX, &lblDweMSFLEX, &optDWEfileFLEX});
+    frameBlankFLEX.enabled = frameDwellFLEX.enabled = false;
 
     optData.value = 1;  // the mode that the program starts in
     pict_IS.visible = pict_UT.visible = pict_FLEX.visible = false;

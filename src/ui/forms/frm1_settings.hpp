@@ -118,6 +118,16 @@ struct Frm1Settings : Form {
     Panel pict_FLEX{*this, "pict_FLEX"};
     Label lblFLEX{*this, "lblFLEX"};
     Button Command15{*this, "Command15", "Browse"};
+    // To be read only: this path takes its blank from the data, and counts become cps by the dwell times of the others.
+    Frame frameBlankFLEX{*this, "frameBlankFLEX", "Blank"};
+    OptionButton optBfromDataFLEX{*this, "optBfromDataFLEX", "Will be extracted from the Data File in the next step",
+                                  4};
+    OptionButton optBLKfileFLEX{*this, "optBLKfileFLEX", "From a Blank File  (.BLK):", 4};
+    Frame frameDwellFLEX{*this, "frameDwellFLEX", "Dwell time"};
+    OptionButton optDweUniFLEX{*this, "optDweUniFLEX", "Uniform Dwell Time of ", 5};
+    Entry txtDwellFLEX{*this, "txtDwellFLEX"};
+    Label lblDweMSFLEX{*this, "lblDweMSFLEX", "msec"};
+    OptionButton optDWEfileFLEX{*this, "optDWEfileFLEX", "From a Dwell Time File  (.DWE):", 5};
     Button Command9{*this, "Command9", "Next Step"};
     Button cmdExitFLEX{*this, "cmdExitFLEX", "Exit"};
 };

@@ -89,7 +89,15 @@ ListedWindow step_1() {
              {"Command15", "Browse"},
              {"Command9", "Next Step"},
              {"cmdExitFLEX", "Exit"},
-             {"lblFLEX"}},
+             {"lblFLEX"},
+             {"frameBlankFLEX", "Blank"},
+             {"optBfromDataFLEX", "Will be extracted from the Data File in the next step"},
+             {"optBLKfileFLEX", "From a Blank File  (.BLK):"},
+             {"frameDwellFLEX", "Dwell time"},
+             {"optDweUniFLEX", "Uniform Dwell Time of "},
+             {"txtDwellFLEX"},
+             {"lblDweMSFLEX", "msec"},
+             {"optDWEfileFLEX", "From a Dwell Time File  (.DWE):"}},
             {"Type of data handling"}};
 }
 
