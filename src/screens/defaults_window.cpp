@@ -41,7 +41,7 @@ void Take_New_Values(Context& context, Window& form) {
     take_defaults(form, rs);
     if (rs.SaveRequest == save_marker) {
         rs.SaveRequest.clear();
-        save_defaults_as(rs, context.os);
+        save_defaults_as(rs, context.os, rs.AppPath1);
         rs.SettingsName = saved_name(rs.SetFilePath);
     }
     context.shell.close(form);

@@ -144,12 +144,7 @@ void cmdSaveParam(Context& context) {
     if (const int place = chosen_place(form); place >= 0) rs.setSerialNo1 = place;
     rs.setSerialNo2 = Val(form.Combo2.text);
     rs.setSerialNo3 = Val(form.Combo1.text);
-    FileDialog dialog = defaults_save_dialog(rs);
-    dialog.folder = rs.AppPath2;
-    const auto path = context.os.save_file(dialog);
-    if (!path || path->empty()) return;
-    rs.SetFilePath = *path;
-    WriteDefaults(rs, context.os);
+    save_defaults_as(rs, context.os, rs.AppPath2);
 }
 
 void cmdSave(Context& context) {

@@ -170,7 +170,7 @@ void cmdSave(Context& context) {
         boxes.first_key = std::floor(Val(boxes.first.text));
     }
     if (rs.Method == 0) save_settings_as(rs, context.os);
-    if (rs.Method == 1) save_defaults_as(rs, context.os);
+    if (rs.Method == 1) save_defaults_as(rs, context.os, rs.AppPath1);
     context.shell.close(form);
 }
 

@@ -198,12 +198,9 @@ void WriteDefaults(RunState& rs, Platform& os) {
     replace_settings(rs, os, [&] { return compose(rs); });
 }
 
-FileDialog defaults_save_dialog(const RunState& rs) {
-    return {"Default Files (*.def)|*.def|All Files (*.*)|*.*|", 1, rs.SettingsPath, rs.AppPath1};
-}
-
-void save_defaults_as(RunState& rs, Platform& os) {
-    rs.SetFilePath = os.save_file(defaults_save_dialog(rs)).value_or(rs.SettingsPath);
+void save_defaults_as(RunState& rs, Platform& os, const std::string& folder) {
+    const FileDialog dialog{"Default Files (*.def)|*.def|All Files (*.*)|*.*|", 1, rs.SettingsPath, folder};
+    rs.SetFilePath = os.save_file(dialog).value_or(rs.SettingsPath);
     WriteDefaults(rs, os);
 }
 

@@ -15,10 +15,7 @@ void ReadDefaults(RunState& rs, Platform& os, const std::string& path);
 // Writes to SetFilePath; asks before it overwrites; reports its own faults.
 void WriteDefaults(RunState& rs, Platform& os);
 
-// How the save dialog for a default file opens: at the current one.
-FileDialog defaults_save_dialog(const RunState& rs);
-
-// That dialog, then WriteDefaults. A cancelled dialog writes to the proposed name.
-void save_defaults_as(RunState& rs, Platform& os);
+// The dialog, which proposes the current default file, then WriteDefaults. A cancelled dialog writes to the proposed name.
+void save_defaults_as(RunState& rs, Platform& os, const std::string& folder);
 
 }  // namespace kolvar

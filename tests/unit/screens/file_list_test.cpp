@@ -276,14 +276,19 @@ TEST_F(FileList, SaveOfTheParametersTakesThreeKeysIntoTheDefaultFile) {
         EXPECT_NE(saved.find(line), std::string::npos) << line;
 }
 
-TEST_F(FileList, CancelledSaveOfTheParametersWritesNothing) {
+TEST_F(FileList, CancelledSaveOfTheParametersGoesOnWithTheProposedFileWhichTheQuestionGuards) {
     open();
     const std::string before = folder.read("start-kit/KolvAge-default-b01.def");
     choose(form(), "Combo2", "4");
+    os.yes_or_no = {false};
     click(form(), "cmdSaveParam");
     EXPECT_EQ(os.dialogs.size(), 1U);
+    EXPECT_EQ(box_texts(), Names{"Overwrite existing file?"});
     EXPECT_EQ(folder.read("start-kit/KolvAge-default-b01.def"), before);
-    EXPECT_EQ(box_texts(), Names{});
+    os.yes_or_no = {true};
+    click(form(), "cmdSaveParam");
+    const std::string saved = folder.read("start-kit/KolvAge-default-b01.def");
+    EXPECT_NE(saved.find("\n4,\"setSerialNo2\"\r\n"), std::string::npos);
 }
 
 TEST_F(FileList, BackTakesTheListAwayForANewChoice) {

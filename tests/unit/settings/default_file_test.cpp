@@ -220,7 +220,7 @@ TEST_F(DefaultFile, ACancelledDialogWritesToTheProposedName) {
     rs.SettingsPath = folder.path("own.def");
     rs.AppPath1 = folder.path();
     os.saves = {std::nullopt};
-    save_defaults_as(rs, os);
+    save_defaults_as(rs, os, rs.AppPath1);
     EXPECT_EQ(folder.read("own.def"), two_standards());
     ASSERT_EQ(os.dialogs.size(), 1U);
     EXPECT_EQ(os.dialogs[0].filter, "Default Files (*.def)|*.def|All Files (*.*)|*.*|");
