@@ -15,7 +15,8 @@ void ReadDefaults(RunState& rs, Platform& os, const std::string& path);
 // Writes to SetFilePath; asks before it overwrites; reports its own faults.
 void WriteDefaults(RunState& rs, Platform& os);
 
-// The dialog, which proposes the current default file, then WriteDefaults. A cancelled dialog writes to the proposed name.
+// The dialog, which proposes the current default file, then WriteDefaults. A cancelled dialog writes to the proposed
+// name.
 void save_defaults_as(RunState& rs, Platform& os, const std::string& folder);
 
 }  // namespace kolvar
