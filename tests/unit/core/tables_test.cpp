@@ -87,5 +87,21 @@ TEST(RunState, TwoOfThemShareNothing) {
     EXPECT_EQ(other.nIso, 0);
 }
 
+TEST(Table1, ARangeHoldsBothItsEndsAndIsEmptyWhereItEndsBeforeItBegins) {
+    Table1<int> table(5);
+    for (int i = 0; i <= 5; ++i) table(i) = 10 * i;
+    const Table1<int>& same = table;
+    const auto inner = same.range(2, 4);
+    ASSERT_EQ(inner.size(), 3U);
+    EXPECT_EQ(inner.front(), 20);
+    EXPECT_EQ(inner.back(), 40);
+    EXPECT_EQ(same.range(0, 5).size(), 6U);
+    EXPECT_TRUE(same.range(3, 2).empty());
+    EXPECT_TRUE(index_fault([&] { (void)same.range(3, 6); }));
+    EXPECT_TRUE(index_fault([&] { (void)same.range(-1, 2); }));
+    table.range(4, 5)[1] = 7;
+    EXPECT_EQ(same(5), 7);
+}
+
 }  // namespace
 }  // namespace kolvar

@@ -63,6 +63,30 @@ TEST_F(FileList, OpensWithTheKeysOfTheDefaultFile) {
     EXPECT_EQ(grid().cell(0, 63).text, "BLe Hgused");
 }
 
+TEST_F(FileList, TheDriveMovesTheFolderToItsRoot) {
+    open();
+    choose_run({"1.csv"});
+    choose(form(), "Drive1", "/");
+    EXPECT_EQ(form().Dir1.text, "/");
+    EXPECT_EQ(form().lblPath.text, "/");
+    EXPECT_EQ(rs().MasterPath, "/0-.msf");
+    for (const std::string& name : form().List1.items) EXPECT_NE(name, "1.csv");
+    // The root is shown already: a list that was accepted stays.
+    rs().FileOrdered(1) = "accepted.csv";
+    choose(form(), "Drive1", "/");
+    EXPECT_EQ(rs().FileOrdered(1), "accepted.csv");
+}
+
+TEST_F(FileList, ADriveWithoutADiskIsPassedOver) {
+    open();
+    choose_run({"1.csv"});
+    form().Drive1.set_items({"/", "/no/such/drive"});
+    choose(form(), "Drive1", "/no/such/drive");
+    EXPECT_TRUE(os.boxes.empty());
+    EXPECT_EQ(form().lblPath.text, folder.path("run"));
+    EXPECT_EQ(rs().FileNames(1), "1.csv");
+}
+
 TEST_F(FileList, CaptionsStandOnTheOptionsOfTheirMeaning) {
     EXPECT_EQ(form().optStringSearch(0).text, "First characters of the file names");
     EXPECT_EQ(form().optStringSearch(1).text, "In the middle of the file names, starting at character number of");
@@ -414,6 +438,22 @@ TEST_F(OpenedMaster, ANewListClosesTheDriftOfTheFormerOneAlsoFromTheStartPanel) 
     program->shell().open(forms().frm_drift);
     choose(form(), "Dir1", folder.path("start-kit"));
     EXPECT_FALSE(forms().frm_drift.shown);
+}
+
+TEST_F(OpenedMaster, ShowsWhatTheMasterFileHasTakenUpWhenItComesBackToTheFront) {
+    open_in(1);
+    ASSERT_EQ(column(0), (Names{"1.csv", "2.csv", "3.csv"}));
+    EXPECT_EQ(grid().cell(2, 5).text, "");
+    std::string bytes = folder.read("run/0-run.msf");
+    const std::string open_line = "\"2.csv\",2,\"Std\",\"GJ-1\",,";
+    const std::size_t at = bytes.find(open_line);
+    ASSERT_NE(at, std::string::npos);
+    bytes.replace(at, open_line.size(), "\"2.csv\",2,\"Std\",\"GJ-1\",,2.5");
+    folder.write("run/0-run.msf", bytes);
+    program->shell().activate_again();
+    program->shell().settle();
+    EXPECT_EQ(grid().cell(2, 5).text, "2.5");
+    EXPECT_TRUE(os.boxes.empty());
 }
 
 }  // namespace

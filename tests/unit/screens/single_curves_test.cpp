@@ -43,5 +43,46 @@ TEST_F(SingleCurveScreen, ScaleOptionsDrawTheSingleCurves) {
     EXPECT_EQ(form().pict1.canvas.draws(), draws + 2);
 }
 
+TEST_F(SingleCurveScreen, AnotherSizeOfTheWindowDrawsTheSingleCurves) {
+    go();
+    click(form(), "optLi");
+    const int draws = form().pict1.canvas.draws();
+    rs().CurvesShown = 0;
+    resize(form(), 15000, 9000);
+    EXPECT_EQ(form().pict1.canvas.draws(), draws + 1);
+    EXPECT_EQ(rs().CurvesShown, 0);
+}
+
+TEST_F(SingleCurveScreen, AnotherSizeOfAPlotDrawsTheSingleCurves) {
+    go();
+    click(form(), "optLi");
+    const int draws = form().pict1.canvas.draws();
+    rs().CurvesShown = 0;
+    Event event = event_of(EventKind::resize, form(), "pict1");
+    event.x = 6000;
+    event.y = 3000;
+    program->dispatch(event);
+    EXPECT_EQ(form().pict1.width, 6000);
+    EXPECT_EQ(form().pict1.height, 3000);
+    EXPECT_EQ(form().pict1.canvas.draws(), draws + 1);
+    EXPECT_EQ(rs().CurvesShown, 0);
+}
+
+TEST_F(SingleCurveScreen, ATypedLimitOfTheRatiosDrawsTheSingleCurves) {
+    go();
+    click(form(), "optLi");
+    const int draws = form().pict1.canvas.draws();
+    rs().CurvesShown = 0;
+    form().lblMaxIIS.visible = true;
+    click(form(), "lblMaxIIS");
+    type(form(), "txtYMaxInp2", "5");
+    enter(form(), "txtYMaxInp2");
+    EXPECT_EQ(rs().YMaxEntry2, Value(5));
+    EXPECT_FALSE(form().txtYMaxInp2.visible);
+    EXPECT_EQ(form().pict1.canvas.draws(), draws + 1);
+    EXPECT_EQ(rs().CurvesShown, 0);
+    EXPECT_TRUE(os.boxes.empty());
+}
+
 }  // namespace
 }  // namespace kolvar::test

@@ -1,5 +1,6 @@
 // The U/Pb and FLEX screen: how it comes up, what its controls do, how it is left. What each path and each kind of
 // result shows stands in up_paths_test.cpp.
+#include "screens/up_window.hpp"
 #include "up_fixture.hpp"
 
 namespace kolvar::test {
@@ -436,6 +437,63 @@ TEST_F(UpWindow, FirstResizeOnlyTurnsTheFlag) {
     resize(form(), 16000, 9000);
     EXPECT_EQ(rs().ShowFirst, "masodik");
     EXPECT_EQ(form().pict1.width, width);
+}
+
+TEST_F(UpWindow, APlotOfAnotherSizeKeepsTheLimitsAtTheirSlices) {
+    go();
+    mark_all();
+    const auto pull = [&](const char* plot, double width, double height) {
+        Event event = event_of(EventKind::resize, form(), plot);
+        event.x = width;
+        event.y = height;
+        const int draws = form().pict1.canvas.draws();
+        program->dispatch(event);
+        EXPECT_EQ(form().pict1.canvas.draws(), draws + 1) << plot;
+    };
+    pull("pict1", 6000, 2000);
+    EXPECT_EQ(form().pict1.width, 6000);
+    EXPECT_EQ(form().pict1.height, 2000);
+    EXPECT_EQ(form().pict2.width, 6000) << "as wide as the plot above";
+    EXPECT_EQ(rs().SelLow, Limit(12));
+    EXPECT_EQ(rs().SelLowX, 2400);  // 12 of 30 slices
+    EXPECT_EQ(rs().SelUppX, 4200);  // 21
+    EXPECT_EQ(rs().BlkLowX, 400);   // 2
+    EXPECT_EQ(rs().BlkUppX, 1400);  // 7
+    pull("pict2", 5000, 1500);
+    EXPECT_EQ(form().pict2.width, 5000);
+    EXPECT_EQ(form().pict1.width, 6000);
+    EXPECT_EQ(rs().SelLowX, 2400);
+    pull("pict3", 3000, 2500);
+    EXPECT_EQ(form().pict3.width, 3000);
+    EXPECT_EQ(form().pict3.height, 2500);
+    EXPECT_TRUE(os.boxes.empty());
+}
+
+TEST_F(UpWindow, WithABlankFromAFileTheResultsOfAFormerSelectionCanBeCopiedAtOnce) {
+    go();
+    mark_all();
+    rs().BlankFromData = 0;
+    renew_up_window(program->context());
+    for (const Button* button : {&form().cmdCopyHead, &form().cmdCopy, &form().cmdApp})
+        EXPECT_TRUE(button->enabled) << button->name;
+    EXPECT_FALSE(form().cmdCopySel.enabled);
+    EXPECT_FALSE(form().lblBLKshow.visible);
+    rs().SelN = 0;
+    renew_up_window(program->context());
+    for (const Button* button : {&form().cmdCopyHead, &form().cmdCopy, &form().cmdApp})
+        EXPECT_FALSE(button->enabled) << button->name;
+}
+
+TEST_F(UpWindow, ThereAreFiveRowsOfRatios) {
+    EXPECT_EQ(&form().ratio_row(4).mean, &form().lbl7_6);
+    for (const int none : {-1, 5}) {
+        try {
+            (void)form().ratio_row(none);
+            ADD_FAILURE() << none;
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.kind, FaultKind::index);
+        }
+    }
 }
 
 }  // namespace

@@ -80,6 +80,21 @@ TEST(SliceErrors, AFaultKeepsTheSlicesBefore) {
     EXPECT_EQ(error[2], Cell());
 }
 
+TEST(SliceErrors, AStandardTooWeakForItsCountingTermKeepsTheTermOfTheSliceBefore) {
+    const std::vector<double> cells = {50, 25};
+    const std::vector<double> standard = {100, 1.0E-300};
+    const std::vector<std::uint8_t> rejected = {0, 0};
+    const std::vector<Cell> ppm = {10.0, 10.0};
+    std::vector<Cell> error(2);
+    ErrorTerms terms;
+    EXPECT_EQ(fault_of([&] { concentration::slice_errors(cells, standard, rejected, ppm, 1.0E-10, terms, error); }),
+              fault_text(FaultKind::overflow));
+    EXPECT_DOUBLE_EQ(error[0].number(), 10 * std::sqrt(3.0E8));  // 1 / 5E-9 + 1 / 1E-8
+    EXPECT_EQ(error[1], Cell());
+    EXPECT_DOUBLE_EQ(terms.e1, 4.0E8);  // that of the second slice
+    EXPECT_DOUBLE_EQ(terms.e2, 1.0E8);  // still that of the first
+}
+
 TEST(SelectedMedian, OfOneSliceDividesByZero) {
     EXPECT_EQ(fault_of([] { median({5}); }), fault_text(FaultKind::division_by_zero));
     EXPECT_EQ(fault_of([] { median({}); }), fault_text(FaultKind::division_by_zero));
@@ -119,6 +134,13 @@ TEST(SelectedMedian, ALongerCountThanTheCellsReadsCellsThatWereNeverFilled) {
     std::vector<double> work;
     EXPECT_EQ(selected_median(cells, 9, work), 0);
     EXPECT_EQ(selected_median(cells, 4, work), 3);  // places 1 and 2: 6 and nothing
+}
+
+TEST(SortedCells, PlacesMayBeAskedForInAnyOrder) {
+    const std::vector<double> cells = {40, 10, 0, 60, 20, 50, 30};
+    std::vector<double> work;
+    SortedCells sorted(cells, work);
+    for (const int place : {5, 1, 3, 6, 2, 0, 4, 5}) EXPECT_EQ(sorted.at(place), 10 * place) << place;
 }
 
 TEST(IntervalKernels, ExtremesTakeTheFirstOfEqualCells) {
@@ -174,6 +196,86 @@ TEST(IntervalKernels, ABlankOfTheLargestKindFaultsBeforeItIsWritten) {
     EXPECT_EQ(net[0], -1.0E308);
     EXPECT_EQ(net[1], 7);
     EXPECT_EQ(net[2], 7);
+}
+
+TEST(IntervalKernels, ARatioBeyondAllNumbersKeepsTheRatiosBeforeItAndTheirSum) {
+    const std::vector<double> cells = {6, 1.0E200, 8};
+    const std::vector<double> standard = {2, 1.0E-200, 2};
+    std::vector<double> ratio = {7, 7, 7};
+    double sum = -1;
+    EXPECT_EQ(fault_of([&] { ratios_to_standard(cells, standard, ratio, sum); }), fault_text(FaultKind::overflow));
+    EXPECT_EQ(ratio, (std::vector<double>{3, 7, 7}));
+    EXPECT_EQ(sum, 3);
+}
+
+TEST(IntervalKernels, ASumOfRatiosBeyondAllNumbersKeepsTheRatioThatTookItThere) {
+    const std::vector<double> cells = {1.5E308, 1.5E308, 8};
+    const std::vector<double> standard = {1, 1, 2};
+    std::vector<double> ratio = {7, 7, 7};
+    double sum = -1;
+    EXPECT_EQ(fault_of([&] { ratios_to_standard(cells, standard, ratio, sum); }), fault_text(FaultKind::overflow));
+    EXPECT_EQ(ratio, (std::vector<double>{1.5E308, 1.5E308, 7}));
+    EXPECT_EQ(sum, 1.5E308);
+}
+
+TEST(IntervalKernels, AColumnWhoseSumIsBeyondAllNumbersEndsAfterTheColumnsBeforeIt) {
+    const std::array<std::vector<double>, 4> columns = {{{1, 2, 3}, {1.5E308, 1.5E308, 1}, {4, 5, 6}, {7, 8, 9}}};
+    double cell = -1;
+    std::vector<double> sums;
+    EXPECT_EQ(fault_of([&] {
+                  add_up_columns(
+                      cell, 4, 3,
+                      [&](int i) {
+                          return [data = columns[static_cast<std::size_t>(i - 1)].data()](std::size_t t) {
+                              return data[t];
+                          };
+                      },
+                      [&](int) { sums.push_back(cell); });
+              }),
+              fault_text(FaultKind::overflow));
+    EXPECT_EQ(sums, std::vector<double>{6});
+    EXPECT_EQ(cell, 1.5E308);  // what was added before
+}
+
+// Y89: 20 ppm and 10 cps in the standard measurement make 2 ppm per cps; 1E100 ppm x 1E100 cps of Si29 make 1E200, and
+// 4 ppm of it in the standard the divisor.
+class HugeSlices : public IntervalCase {
+public:
+    void SetUp() override {
+        column("Si29", {0, 0, 0});
+        column("Y89", {0, 0, 0});
+        net(1, {1, 1, 1});
+        net(2, {2, 2, 2});
+        select(1, 3);
+        rs.IsoISconc(1) = 1, rs.StdConc(1) = 4, rs.StdCps(1) = 1.0E100;
+        rs.IsoISconc(2) = 1.0E100, rs.StdConc(2) = 20, rs.StdCps(2) = 10;
+    }
+    std::string fault() {
+        return fault_of([&] { concentration::concentration_of_slices(rs, Interval{1, 3}); });
+    }
+};
+
+TEST_F(HugeSlices, ANumberThatIsHugeOnTheWayIsAPlainConcentration) {
+    EXPECT_EQ(fault(), "no fault");
+    for (int t = 1; t <= 3; ++t) EXPECT_DOUBLE_EQ(rs.ConcT(2, t).number(), 1.0E200) << t;  // 2 x 2 x 1E200 / (1 x 4)
+}
+
+TEST_F(HugeSlices, AConcentrationBeyondAllNumbersLeavesTheStepBeforeInItsCell) {
+    rs.Sig2(2, 2) = 1.0E200;  // 2E200 by the standard measurement, 2E400 with the internal standard
+    EXPECT_EQ(fault(), fault_text(FaultKind::overflow));
+    EXPECT_DOUBLE_EQ(rs.ConcT(2, 1).number(), 1.0E200);
+    EXPECT_DOUBLE_EQ(rs.ConcT(2, 2).number(), 2.0E200);
+    EXPECT_EQ(rs.ConcT(2, 3), Cell());
+}
+
+TEST_F(HugeSlices, AnInternalStandardBeyondAllNumbersIsAFaultAndNoConcentrationOfZero) {
+    rs.Sig2(1, 2) = 1.0E308;  // 4E308 below the line
+    rs.IsoISidx(1) = 0;       // the standard itself is not reported here
+    EXPECT_EQ(fault(), fault_text(FaultKind::overflow));
+    EXPECT_EQ(rs.ConcT(1, 1), Cell(Mark::dashes));
+    EXPECT_DOUBLE_EQ(rs.ConcT(2, 1).number(), 1.0E200);
+    EXPECT_EQ(rs.ConcT(2, 2), Cell(4.0));  // 2 cps x 2 ppm per cps
+    EXPECT_EQ(rs.ConcT(2, 3), Cell());
 }
 
 }  // namespace

@@ -167,6 +167,15 @@ TEST_F(Export, AllDataAtTZeroAndItsTexts) {
                                 "0.0610\t" + with_mean + full_signals);
 }
 
+// A default file written by hand may hold any number. The values are those at T-zero all the same.
+TEST_F(Export, ATZeroOfNoKnownKindIsNamedAfterTheAverage) {
+    rs.setAver = 1;
+    rs.setTzero = 3;
+    EXPECT_TRUE(copied(true).starts_with("spot.csv\t7 Jan. 2009\t1 to 3\t5 to 8\tmean\t2.5\tno\t0.1200\t0.8200\t"));
+    rs.setMean_UP = 1;
+    EXPECT_TRUE(copied(true).starts_with("spot.csv\t7 Jan. 2009\t1 to 3\t5 to 8\tmedian\t2.5\tno\t0.1200\t0.8200\t"));
+}
+
 TEST_F(Export, RejectionIsToldWithItsLimit) {
     rs.RejectOn = true;
     form.lblOM.text = "3 / 8";
