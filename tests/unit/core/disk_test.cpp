@@ -13,6 +13,7 @@
 
 #include "core/fault.hpp"
 #include "core/files.hpp"
+#include "support/failing_read.hpp"
 #include "support/test_support.hpp"
 
 namespace kolvar {
@@ -62,6 +63,31 @@ TEST_F(Disk, AFolderInPlaceOfAFileIsUnreadable) {
 TEST_F(Disk, APipeIsUnreadableAndNobodyWaits) {
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
     EXPECT_EQ(fault_of([&] { read_bytes(folder.path("pipe")); }).kind, FaultKind::file_unreadable);
+}
+
+TEST_F(Disk, AReadThatFailsInTheMiddleOfAFileGivesNoneOfIt) {
+    std::string bytes;
+    for (int k = 0; k < 20000; ++k) bytes += static_cast<char>('a' + k % 26);
+    const std::string path = folder.write("long.csv", bytes);
+    for (const std::size_t good : {0U, 1U, 3000U, 3001U, 10000U, 19999U, 20000U}) {
+        const test::FailingRead disk(path, good);
+        const Fault fault = fault_of([&] { read_bytes(path); });
+        EXPECT_EQ(fault.kind, FaultKind::file_unreadable) << good;
+        EXPECT_EQ(fault.file, path);
+        EXPECT_EQ(disk.failures(), 1);
+    }
+    EXPECT_EQ(read_bytes(path), bytes);
+}
+
+TEST_F(Disk, BytesThatComeInPiecesAndAfterInterruptionsAreWhole) {
+    std::string bytes;
+    for (int k = 0; k < 20000; ++k) bytes += static_cast<char>('a' + k % 26);
+    const std::string path = folder.write("long.csv", bytes);
+    const test::FailingRead disk(path, bytes.size());
+    // Nothing is asked for behind the bytes that are wanted.
+    for (const std::size_t most : {1U, 2999U, 3000U, 12345U, 20000U})
+        EXPECT_EQ(read_head(path, most), bytes.substr(0, most));
+    EXPECT_EQ(disk.failures(), 0);
 }
 
 TEST_F(Disk, ANameIsNotCutAtAZeroByte) {
