@@ -8,8 +8,8 @@
 namespace kolvar {
 
 // The kit's folder as the start-path file names it. A relative name that isn't found from the current folder counts
-// from the folder of the program, so that program and kit can be moved together; found in neither, it is the folder of
-// the start path itself if that holds the default settings.
+// from the folder of the program, so that program and kit can be moved together; the kit's own name, found in neither,
+// means the folder of the start path itself if that holds the default settings.
 std::string start_kit_folder(const RunState& rs, const std::string& named);
 
 // A reference file as the settings name it. A relative name that isn't found from the current folder counts from the

@@ -15,6 +15,8 @@ namespace kolvar {
 namespace {
 
 constexpr const char* default_settings = "Kolvar-default-h.set";
+// The folder that the start path names in a kit that nobody has changed yet.
+constexpr const char* shipped_kit = "start-kit";
 
 // The folder of the start kit, from the file that names it.
 void read_start_path(RunState& rs, Platform& os, const std::string& name) {
@@ -114,8 +116,10 @@ std::string start_kit_folder(const RunState& rs, const std::string& named) {
     if (!is_relative_path(folder) || folder_exists(folder)) return folder;
     std::string beside_program = join_path(rs.AppPath1, folder);
     if (folder_exists(beside_program)) return beside_program;
-    // A kit that was copied under another name, start path and all, is found where its start path lies.
-    return file_exists(join_path(rs.AppPath1, default_settings)) ? rs.AppPath1 : folder;
+    // A kit that was copied under another name, start path and all, is found where its start path lies. A folder that
+    // somebody has named is not replaced: its files are told as missing, so that the right one can be named.
+    const bool as_shipped = folder == shipped_kit;
+    return as_shipped && file_exists(join_path(rs.AppPath1, default_settings)) ? rs.AppPath1 : folder;
 }
 
 std::string reference_path(const RunState& rs, const std::string& named) {

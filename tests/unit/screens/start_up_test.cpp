@@ -148,6 +148,30 @@ TEST_F(StartUp, ARelativeStartPathCountsFromTheProgramWhereTheCurrentFolderLacks
     EXPECT_EQ(rs().nIso, 25);
 }
 
+TEST_F(StartUp, AKitCopiedUnderAnotherNameIsFoundByTheStartPathItWasShippedWith) {
+    const std::string winter = folder.path("winter");
+    std::filesystem::rename(folder.path("start-kit"), winter);
+    folder.write("winter/start_path", "\"start-kit\"\r\n");
+    for (const char* name : {"grubbs.dat", "student.dat"})
+        std::filesystem::copy_file(folder.path(name), winter + "/" + name);
+    Program moved(os, winter);
+    moved.start(0);
+    // Where the test's own folder holds a start kit, that one is the nearer.
+    if (!std::filesystem::exists("start-kit")) {
+        EXPECT_EQ(moved.state().WorkPath, winter);
+    }
+    EXPECT_EQ(box_texts(), std::vector<std::string>{});
+    EXPECT_EQ(moved.state().nIso, 25);
+
+    forget_boxes();
+    folder.write("winter/start_path", "\"summer\"\r\n");
+    Program named(os, winter);
+    named.start(0);
+    EXPECT_EQ(named.state().WorkPath, "summer");
+    EXPECT_EQ(box_texts().size(), 6U);
+    EXPECT_EQ(named.state().nIso, 1);
+}
+
 TEST_F(StartUp, OtherPathsWithoutTheirStartPathTellWhatIsMissingAndSeekNothingInTheRootOfTheDisk) {
     std::filesystem::remove(folder.path("start_path_KolvAGE"));
     const std::string defaults = retry_text(slash + "KolvAge-default-b01.def");
