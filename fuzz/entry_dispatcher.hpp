@@ -3,9 +3,10 @@
 
 #include <algorithm>
 
+#include "batch/master_file.hpp"
+#include "core/inspector.hpp"
 #include "entries.hpp"
-#include "screens/program.hpp"
-#include "support/random_user.hpp"
+#include "prologues.hpp"
 
 namespace kolvar::fuzz {
 
@@ -54,36 +55,36 @@ inline void make_wild(const Control& control, test::Choices& choices, Event& eve
     if (event.kind == EventKind::resize) event.x = std::abs(event.x), event.y = std::abs(event.y);
 }
 
-// Deep in the program: the file chosen, blank and signal marked.
-inline void go_to_marked_selection(Program& program, test::RandomPlatform& os, int method) {
-    const auto click = [&](const char* control, int index) {
-        Event event;
-        event.window = "frm1_Settings";
-        event.control = control;
-        event.index = index;
-        program.dispatch(event);
-    };
-    if (method == 0) {
-        click("cmdOK", -1);
-        click("cmdNext", -1);
-    } else {
-        os.opens = {os.kit() + (method == 1 ? "/001-std-91500.csv" : "/0-FLEX-UT19-50.xl")};
-        click("mnuFile", 0);
+// No table of the run state holds a number that is none, and no text shows one.
+inline void require_numbers(const RunState& rs, const std::string& clipboard) {
+    constexpr int looked_at = 120;
+    for (const std::string& name : field_names()) {
+        const FieldShape shape = field_shape(name);
+        const int last1 = shape.dimensions > 0 ? std::min(shape.last1, looked_at) : 0;
+        const int last2 = shape.dimensions > 1 ? std::min(shape.last2, looked_at) : 0;
+        for (int i = 0; i <= last1; ++i)
+            for (int j = 0; j <= last2; ++j) {
+                const Value value = field_get(rs, name, i, j);
+                require(!value.is_number() || std::isfinite(value.number()));
+            }
     }
-    Event mark;
-    mark.window = method == 0 ? "frm2_Time" : "frm2_UP";
-    mark.control = "pict1";
-    const int width = program.forms().find(mark.window)->find("pict1")->width;
-    for (const int slice : {5, 45, 60, 100}) {
-        mark.shift = slice < 50 ? 1 : 0;
-        mark.button = slice == 5 || slice == 60 ? 1 : 2;
-        mark.kind = EventKind::press;
-        mark.x = static_cast<double>(width) * slice / std::max(program.state().nSlices, 1);
-        program.dispatch(mark);
-        mark.kind = EventKind::release;
-        program.dispatch(mark);
+    for (const std::string& text : {rs.OutText, clipboard}) {
+        for (std::size_t from = 0; from < text.size();) {
+            const std::size_t end = std::min(text.find_first_of("\t\r\n ", from), text.size());
+            std::string word = text.substr(from, end - from);
+            if (!word.empty() && word.front() == '-') word.erase(0, 1);
+            require(word != "nan" && word != "inf");
+            from = end + 1;
+        }
     }
-    require(program.shell().active() == program.forms().find(mark.window));
+}
+
+// A batch in work stands in its file: the file reads, line for line.
+inline void require_list(const RunState& rs) {
+    require(rs.SeqCount >= 0 && rs.SeqCount <= MaxMaster);
+    if (rs.MasterPath.empty() || !file_exists(rs.MasterPath)) return;
+    RunState read;
+    ReadMaster(read, rs.MasterPath);
 }
 
 // Whatever is done, the program goes on with a window, or has ended because a window was closed; each fault was told
@@ -107,16 +108,16 @@ inline void dispatcher(Bytes bytes) {
                                         }();
 
     ChoicesOfBytes choices(bytes);
-    constexpr int methods[] = {0, 1, 3, 0};
-    const int method = methods[choices.below(4)];
+    const auto place = static_cast<Place>(choices.below(places));
     test::RandomPlatform os(choices, folder.path(),
                             {"example-1.csv", "nist-610-1.csv", "001-std-91500.csv", "test-01-no-Hg-235-232.csv",
                              "0-FLEX-UT19-50.xl", "two.csv", "zeros.csv", "grubbs.dat", "missing.csv"});
     const std::vector<std::string> folders{kit.string(), folder.path(), folder.path() + "/none"};
     Program program(os, kit.string());
-    program.start(method);
-    if (choices.one_in(2)) go_to_marked_selection(program, os, method);
+    program.start(method_of(place));
+    go_to(place, program, os);
     constexpr int most_events = 600;
+    constexpr auto endless = static_cast<std::size_t>(-1);
     for (int done = 0; done < most_events && !choices.at_end() && !program.ended(); ++done) {
         const std::vector<Form*>& shown = program.shell().shown();
         require(!shown.empty());
@@ -134,6 +135,7 @@ inline void dispatcher(Bytes bytes) {
             event.kind = EventKind::click;
             test::random_event(control, choices, folders, event);
             make_wild(control, choices, event);
+            os.disk_room = choices.one_in(64) ? static_cast<std::size_t>(choices.below(4000)) : endless;
         } else if (form.step) {
             continue;
         }
@@ -146,6 +148,8 @@ inline void dispatcher(Bytes bytes) {
         event.kind = EventKind::release;
         program.dispatch(event);
     }
+    require_numbers(program.state(), os.clip);
+    require_list(program.state());
 }
 
 }  // namespace kolvar::fuzz

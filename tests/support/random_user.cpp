@@ -12,7 +12,11 @@ bool RandomPlatform::ask(const std::string& text, const std::string& title) {
 }
 
 std::string RandomPlatform::open_file(const FileDialog& dialog) {
-    if (!opens.empty()) return ScriptedPlatform::open_file(dialog);
+    if (!opens.empty()) {
+        const std::string path = ScriptedPlatform::open_file(dialog);
+        if (path.ends_with(".msf")) saved_master_ = path;
+        return path;
+    }
     if (choices_.one_in(4)) return {};
     const auto wants = [&](const char* ending) { return dialog.filter.find(ending) != std::string::npos; };
     if (wants("*.set") && !saved_settings_.empty() && choices_.one_in(2)) return saved_settings_;

@@ -8,7 +8,7 @@
 namespace kolvar::test {
 namespace {
 
-TEST(Corpus, Dispatchers) { EXPECT_GE(replay_corpus("dispatcher", fuzz::dispatcher), 4); }
+TEST(Corpus, Dispatchers) { EXPECT_GE(replay_corpus("dispatcher", fuzz::dispatcher), fuzz::places); }
 TEST(Corpus, StartPaths) { EXPECT_GE(replay_corpus("start_path", fuzz::start_path), 10); }
 
 }  // namespace
