@@ -23,6 +23,8 @@ void refuse_typed_level(Context& context);
 void click_matrix(Context& context, int row, int col);
 // The normalised trend of a row in pict1.
 void Draw_Profile(Context& context, int row);
+// No figure of the two halves: lblFirstSec holds the words alone.
+void clear_halves(Frm3Matrix& form);
 // Rej, nData, nRejected, RejManual and the list of isotopes with too few data (OutText) from the colours of the cells.
 void ReadRejections(Context& context);
 

@@ -22,17 +22,24 @@ double mean_ratio(const RunState& rs, int row, int from, int upto) {
     return quotient(sum, upto - from + 1);
 }
 
-void show_halves(RunState& rs, Label& label, int row) {
+void show_halves(RunState& rs, Frm3Matrix& form, int row) {
     const int low = rs.SelLow.val();
     const int slices = rs.SelN.val();
     if (slices < 2) return;
     const int half = slices / 2;
     const double first = mean_ratio(rs, row, low, low + half - 1);
     const double second = mean_ratio(rs, row, low + half, low + slices - 1);
-    if (second > 0) label.text = Format(quotient(first, second), "0.00");
+    if (second <= 0) return;
+    form.lblFirstSec.text = Format(quotient(first, second), "0.00");
+    form.lblFirstSecHead.visible = true;
 }
 
 }  // namespace
+
+void clear_halves(Frm3Matrix& form) {
+    form.lblFirstSec.text = form.lblFirstSecHead.text;
+    form.lblFirstSecHead.visible = false;
+}
 
 void Draw_Profile(Context& context, int row) {
     Running running(context.rs, "Draw_Profile");
@@ -60,8 +67,8 @@ void Draw_Profile(Context& context, int row) {
         if (measured(t) && measured(t + 1))
             canvas.Line(x(t), y(deviation(t)), x(t + 1), y(deviation(t + 1)), palette(12));
 
-    form.lblFirstSec.text.clear();
-    show_halves(rs, form.lblFirstSec, row);
+    clear_halves(form);
+    show_halves(rs, form, row);
 }
 
 }  // namespace kolvar

@@ -148,7 +148,7 @@ void load_matrix(Context& context) {
     form.lblSelected.text = rs.SelN.text();
     form.lblIsotopes.text = std::to_string(rs.nIso);
     form.pict1.canvas.Clear();
-    form.lblFirstSec.text.clear();
+    clear_halves(form);
     fill_levels(context);
     settle_boxes(context);
     draw_legends(context);

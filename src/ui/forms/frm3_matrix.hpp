@@ -15,6 +15,7 @@ struct Frm3Matrix : Form {
         optCPS.value = 1;
         comboProc.editable = true;
         pictMinMax.visible = pictStDev.visible = pictGrubbs.visible = false;
+        lblFirstSecHead.visible = false;
         cmdReset.enabled = false;
     }
 
@@ -52,7 +53,7 @@ struct Frm3Matrix : Form {
     Label lblWhatToDo{*this, "lblWhatToDo", "Click the name of the isotopes to plot the normalised trend here"};
     Picture pict1{*this, "pict1"};
     Label lblFirstSecHead{*this, "lblFirstSecHead", "First half / Second half:"};
-    Label lblFirstSec{*this, "lblFirstSec"};
+    Label lblFirstSec{*this, "lblFirstSec", "First half / Second half:"};  // the figure, once there is one
 
     Button cmdCancel{*this, "cmdCancel", "Exit"};
     Button cmdBack{*this, "cmdBack", "Back"};

@@ -344,7 +344,7 @@ ListedWindow step_3() {
              {"cmdBack", "Back"},
              {"cmdNext", "Next Step"},
              {"cmdCancel", "Exit"},
-             {"lblFirstSec"},
+             {"lblFirstSec", "First half / Second half:"},
              {"lblWhatToDo", "Click the name of the isotopes to plot the normalised trend here"},
              {"hlp3"},
              {"pictMinMax"},
@@ -352,7 +352,7 @@ ListedWindow step_3() {
              {"pictGrubbs"},
              {"Frame2"},
              {"pict1"}},
-            {"s.d.", "First half / Second half:"}};
+            {"s.d."}};
 }
 
 ListedWindow step_4() {

@@ -216,9 +216,13 @@ TEST_F(Profile, RowsWithoutStatisticsAreNotDrawn) {
 
 TEST_F(Profile, WithoutASecondHalfAboveZeroThereIsNoFigure) {
     three_isotopes();
+    Draw_Profile(context, 1);
+    EXPECT_EQ(form.lblFirstSec.text, "1.00");
+    EXPECT_TRUE(form.lblFirstSecHead.visible);
     data(rs.Ratio, 2, {1, 2, 1, -1, 0});
     Draw_Profile(context, 2);
-    EXPECT_EQ(form.lblFirstSec.text, "");
+    EXPECT_EQ(form.lblFirstSec.text, "First half / Second half:");
+    EXPECT_FALSE(form.lblFirstSecHead.visible);
 }
 
 TEST_F(Profile, WhileAFileIsMadeAClickOnANameDoesNothing) {

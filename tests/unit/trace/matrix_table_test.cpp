@@ -103,7 +103,7 @@ TEST_F(MatrixTable, OpeningWritesHeaderLabelsAndTheLimit) {
     EXPECT_EQ(form.lblIsotopes.text, "3");
     EXPECT_EQ(form.txtSD.text, "2.5");
     EXPECT_FALSE(form.txtSD.locked);
-    EXPECT_EQ(form.lblFirstSec.text, "");
+    EXPECT_EQ(form.lblFirstSec.text, "First half / Second half:");
     EXPECT_EQ(form.cmdNext.text, "Next Step");
     EXPECT_FALSE(form.cmdReset.enabled);
 }
