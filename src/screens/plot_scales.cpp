@@ -72,7 +72,8 @@ void draw_decades(TimeScreen& frm, double maximum, bool lines) {
     const Area area = upper_area(frm);
     const std::array<Label*, 7> labels{&frm.lbl10,   &frm.lbl100, &frm.lbl1000, &frm.lbl10k,
                                        &frm.lbl100k, &frm.lbl1m,  &frm.lbl10m};
-    const int decades = digits_of_integer_part(maximum) - 1;
+    // Of a typed limit near 0 the single curves hand over a logarithm far below 0: it has digits, but no decades.
+    const int decades = maximum > 1 ? digits_of_integer_part(maximum) - 1 : 0;
     for (int i = 1; i <= decades; ++i) {
         const double y = area.height - area.height * 0.9 * i / Log10(maximum);
         draw_mark(area, y, lines);

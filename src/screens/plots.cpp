@@ -53,9 +53,10 @@ void hide_label(Canvas& canvas, Label& label) {
 bool blank_is_marked_here(const RunState& rs) { return rs.BlankFromData == 1 && rs.ModeCreateBLK != 1; }
 
 void hide_scale_labels(TimeScreen& frm) {
-    for (Label* label : {&frm.lbl10, &frm.lbl100, &frm.lbl1000, &frm.lbl10k, &frm.lbl100k, &frm.lbl1m, &frm.lbl10m})
+    // All in the list of the upper plot: the lower one isn't cleared by each draw, and its list would grow.
+    for (Label* label :
+         {&frm.lbl10, &frm.lbl100, &frm.lbl1000, &frm.lbl10k, &frm.lbl100k, &frm.lbl1m, &frm.lbl10m, &frm.lblRatios})
         hide_label(frm.pict1.canvas, *label);
-    hide_label(frm.pict2.canvas, frm.lblRatios);
 }
 
 void draw_interval_tints(const RunState& rs, const Area& area) { draw_intervals(rs, area, true); }
