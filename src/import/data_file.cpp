@@ -251,14 +251,18 @@ void MaintainIntervals(Context& context) {
     }
 }
 
-bool ChooseDataFile(Context& context, const std::string& folder) {
-    RunState& rs = context.rs;
-    Running running(rs, "ChooseDataFile");
-    rs.SetFilePath = context.os.open_file({data_file_filter, all_registered, "", folder});
+bool name_data_file(RunState& rs, Platform& os, const std::string& folder) {
+    rs.SetFilePath = os.open_file({data_file_filter, all_registered, "", folder});
     if (rs.SetFilePath.empty()) return false;
     rs.AppPath2 = folder_of(rs.SetFilePath);
     rs.DataFilePath = rs.SetFilePath;
     rs.DataFileName = file_name(rs.SetFilePath);
+    return true;
+}
+
+bool ChooseDataFile(Context& context) {
+    Running running(context.rs, "ChooseDataFile");
+    if (!name_data_file(context.rs, context.os)) return false;
     load_in_place_of_former(context);
     return true;
 }

@@ -31,8 +31,10 @@ void SplitIsoNames(RunState& rs);
 void AfterImport(Context& context);
 void MaintainIntervals(Context& context);
 
-// The dialog, opened in `folder` ("" = the system's choice), and the dispatch to a reader. False when the dialog was
+// The dialog, opened in `folder` ("" = the system's choice), and the names of the answer. False when it was cancelled.
+bool name_data_file(RunState& rs, Platform& os, const std::string& folder = {});
+// The dialog and the dispatch to a reader, the former measurement gone in any case. False when the dialog was
 // cancelled.
-bool ChooseDataFile(Context& context, const std::string& folder = {});
+bool ChooseDataFile(Context& context);
 
 }  // namespace kolvar

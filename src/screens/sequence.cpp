@@ -3,7 +3,6 @@
 #include "batch/master_file.hpp"
 #include "core/files.hpp"
 #include "import/data_file.hpp"
-#include "import/file_format.hpp"
 #include "screens/plots.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
@@ -30,7 +29,7 @@ void load_listed_file(Context& context, const std::string& name) {
     rs.DataFilePath = rs.MasterDir + name;
     clear_ratio_results(rs);
     // A file of another kind stands in the list beside the tables: the walk goes on over it with the data at hand.
-    if (format_of(rs.DataFilePath) != FileFormat::none) load_in_place_of_former(context);
+    load_named_file(context);
 }
 
 void show_file_in_work(Context& context) {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "import/data_file.hpp"
+#include "import/file_format.hpp"
 #include "screens/screens.hpp"
 #include "screens/sequence.hpp"
 
@@ -121,9 +122,15 @@ void go_on_with_new_file(Context& context, Form& from) {
     context.shell.open(context.forms.frm2_UP);
 }
 
+void load_named_file(Context& context) {
+    if (format_of(context.rs.DataFilePath) != FileFormat::none) load_in_place_of_former(context);
+}
+
 void choose_next_file(Context& context) {
-    if (!ChooseDataFile(context, context.rs.AppPath2)) return;
-    context.rs.BlankFromData = 1;
+    RunState& rs = context.rs;
+    if (!name_data_file(rs, context.os, rs.AppPath2)) return;
+    load_named_file(context);
+    rs.BlankFromData = 1;
     go_on_with_new_file(context, context.forms.frm2_UP);
 }
 

@@ -19,6 +19,10 @@ bool asked_about_mercury(Context& context);
 // `from` is the window that the file was chosen in; it closes.
 void go_on_with_new_file(Context& context, Form& from);
 
+// Reads DataFilePath in place of the former data. A path of an ending that no reader is made for leaves them as they
+// are, and the user goes on with them.
+void load_named_file(Context& context);
+
 // The dialog of frm2_UP for the next file.
 void choose_next_file(Context& context);
 
