@@ -51,6 +51,7 @@ void cmdZizeges(Context& context) {
     RunState& rs = context.rs;
     Frm2UP& form = context.forms.frm2_UP;
     const WaitCursor waiting(context.os);
+    rs.PlotPool = 1;
     form.lblFusion.text = "1";
     form.VScroll2.set_value(1);
     if (rs.SelN.val() > rs.SelNGood) {

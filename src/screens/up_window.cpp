@@ -33,6 +33,7 @@ void cmdReject(Context& context) {
         emphasise_rejection(form, true);
         rs.RejectOn = true;
         // Rejected slices are struck out one by one.
+        rs.PlotPool = 1;
         form.lblFusion.text = "1";
         form.VScroll2.set_value(1);
         Out_Liers(rs, form);
@@ -76,12 +77,13 @@ void scroll_ratios(Context& context) {
     draw_UPratio(context);
 }
 
-// How many slices make one point. Outliers are marked slice by slice: pooled points bring them back.
+// How many slices make one point: the number beside the bar, which waits for the limits. Outliers are marked slice by
+// slice: pooled points bring them back.
 void scroll_pool(Context& context) {
     RunState& rs = context.rs;
     Frm2UP& form = context.forms.frm2_UP;
-    rs.PlotPool = form.VScroll2.value;
     if (all_limits_set(rs)) {
+        rs.PlotPool = form.VScroll2.value;
         form.lblFusion.text = std::to_string(rs.PlotPool);
         if (rs.PlotPool >= 2) {
             restore_rejected(rs, form);

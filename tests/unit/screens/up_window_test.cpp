@@ -228,6 +228,9 @@ TEST_F(UpWindow, PoolingWithoutFourLimitsDrawsNothingButForgetsTheAspect) {
     EXPECT_EQ(form().lblFusion.text, "1");
     EXPECT_EQ(form().pict3.canvas.draws(), 1);  // cleared when the window came up
     EXPECT_FALSE(rs().AspectFix);
+    mark_all();
+    EXPECT_EQ(rs().PlotPool, 1);  // the number that is shown is the one that counts
+    EXPECT_EQ(lines_of(form().pict3), 2 * 10);
 }
 
 TEST_F(UpWindow, RejectionLabelsStayHiddenAfterAClickUntilShowIsClickedAgain) {
