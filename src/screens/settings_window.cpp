@@ -5,7 +5,6 @@
 #include "core/files.hpp"
 #include "core/numbers.hpp"
 #include "import/data_file.hpp"
-#include "screens/defaults_window.hpp"
 #include "screens/screens.hpp"
 #include "screens/selection.hpp"
 #include "screens/sequence.hpp"
@@ -310,7 +309,8 @@ void connect_settings_window(Program& program) {
                 return load_settings_from_file(context);
             case 1:
                 if (context.rs.Method == 0) return open_set_is(context, "back to start");
-                return open_defaults_window(context);
+                if (context.rs.Method == 1) context.shell.open(context.forms.frm_SetUP);
+                return;
             case 2:
                 return context.shell.open(context.forms.frm_InputForm);
             default:

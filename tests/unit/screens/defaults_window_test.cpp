@@ -47,6 +47,15 @@ TEST_F(DefaultsWindow, ModifyDefaultsOpensTheWindowOfAgesAlsoOnTheThirdPath) {
     EXPECT_EQ(shown_windows(), (Names{"frm1_Settings", "frm_SetUP"}));
 }
 
+TEST_F(DefaultsWindow, ShowSettingsOpensNothingOnThePathsThatHaveNoSettingsOfTheirOwn) {
+    program->start(1);
+    for (const int method : {2, 3}) {
+        rs().Method = method;
+        click(forms().frm1_Settings, "mnuSettings", 1);
+        EXPECT_EQ(shown_windows(), Names{"frm1_Settings"}) << method;
+    }
+}
+
 TEST_F(DefaultsWindow, OpensOverTheScreenOfThePathInUse) {
     program->start(1);
     click(forms().frm1_Settings, "cmdOK1");

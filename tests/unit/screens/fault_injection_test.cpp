@@ -212,9 +212,10 @@ std::vector<RoadThatSaves> roads_that_save() {
                           t.click_first("mnuDefault", 1);
                           t.click(t.forms().frm_SetUP, "cmdSaveAs");
                       }},
-        RoadThatSaves{"flex_defaults", "made.def", false, true, not_saved, "\"Method\"", [](Saving& t) { t.start(3); },
+        RoadThatSaves{"flex_defaults", "made.def", false, true, not_saved, "\"Method\"",
+                      [](Saving& t) { t.go_to_ratios(3); },
                       [](Saving& t) {
-                          t.click_first("mnuSettings", 1);
+                          t.click(t.forms().frm2_UP, "cmdSett");
                           t.click(t.forms().frm_Set_FLEX, "cmdSaveAs");
                       }},
         RoadThatSaves{"start_path", "start_path", false, false, "Run-time error: ", "start-kit",
