@@ -40,10 +40,11 @@ struct References {
     std::string MissSTC, MissSTM, MissBLK, MissDWE;
     bool RefsMatched = false;
 
-    // Critical values of Grubbs' test at 10, 7.5, 5, 2.5 and 1 percent, n = 3..100.
-    Table1<double> GrubbsP10{100}, GrubbsP7_5{100}, GrubbsP5{100}, GrubbsP2_5{100}, GrubbsP1{100};
+    // Critical values of Grubbs' test at 10, 7.5, 5, 2.5 and 1 percent, n = 3..100. A number of data that the file has
+    // no line for has no value.
+    Table1<Cell> GrubbsP10{100}, GrubbsP7_5{100}, GrubbsP5{100}, GrubbsP2_5{100}, GrubbsP1{100};
     // Student's t, n = 1..101.
-    Table1<double> StudentT1{101}, StudentT2{101}, StudentT3{101}, StudentT4{101}, StudentT5{101}, StudentT6{101};
+    Table1<Cell> StudentT1{101}, StudentT2{101}, StudentT3{101}, StudentT4{101}, StudentT5{101}, StudentT6{101};
 };
 
 }  // namespace kolvar

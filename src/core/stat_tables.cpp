@@ -63,7 +63,7 @@ void LoadStudent(RunState& rs, Platform& os) {
 }
 
 double grubbs_critical(const RunState& rs, std::string_view level, int n) {
-    const Table1<double>* column = nullptr;
+    const Table1<Cell>* column = nullptr;
     if (level == " 1") column = &rs.GrubbsP1;
     if (level == "2.5") column = &rs.GrubbsP2_5;
     if (level == " 5") column = &rs.GrubbsP5;
@@ -71,8 +71,8 @@ double grubbs_critical(const RunState& rs, std::string_view level, int n) {
     if (level == "10") column = &rs.GrubbsP10;
     if (n < first_grubbs) return 0.0;
     if (n > last_grubbs) fail(FaultKind::index);
-    // A level without a column has no critical value, which counts as 0.
-    return column != nullptr ? (*column)(n) : 0.0;
+    // A level without a column, or a number of data without a line, has no critical value, which counts as 0.
+    return column != nullptr ? (*column)(n).val() : 0.0;
 }
 
 }  // namespace kolvar

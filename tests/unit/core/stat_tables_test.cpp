@@ -52,7 +52,7 @@ TEST_F(StatTables, GrubbsLevelsAreFilledFromThreeToAHundred) {
     EXPECT_EQ(rs.GrubbsP1(3), 35.0);
     EXPECT_EQ(rs.GrubbsP10(100), 1001.0);
     EXPECT_EQ(rs.GrubbsP1(100), 1005.0);
-    EXPECT_EQ(rs.GrubbsP10(2), 0.0);
+    EXPECT_EQ(rs.GrubbsP10(2).mark, Mark::unset);
     EXPECT_STREQ(rs.procedure, "");
 }
 
@@ -78,7 +78,7 @@ TEST_F(StatTables, ATableOneRecordShortWarnsAndKeepsWhatWasRead) {
     LoadGrubbs(rs, os);
     expect_warning("grubbs.dat");
     EXPECT_EQ(rs.GrubbsP1(99), 995.0);
-    EXPECT_EQ(rs.GrubbsP10(100), 0.0);
+    EXPECT_EQ(rs.GrubbsP10(100).mark, Mark::unset);
     EXPECT_EQ(grubbs_critical(rs, " 5", 100), 0.0);
 }
 
@@ -88,7 +88,7 @@ TEST_F(StatTables, ATableThatBreaksOffInsideARecordKeepsItsFields) {
     expect_warning("grubbs.dat");
     EXPECT_EQ(rs.GrubbsP10(3), 1.5);
     EXPECT_EQ(rs.GrubbsP7_5(3), 1.6);
-    EXPECT_EQ(rs.GrubbsP5(3), 0.0);
+    EXPECT_EQ(rs.GrubbsP5(3).mark, Mark::unset);
 }
 
 TEST_F(StatTables, AMissingGrubbsTableWarns) {
@@ -125,7 +125,7 @@ TEST_F(StatTables, AShortOrMissingStudentTableIsReportedAllTheSame) {
     LoadStudent(rs, os);
     expect_warning("student.dat");
     EXPECT_EQ(rs.StudentT6(100), 1006.0);
-    EXPECT_EQ(rs.StudentT1(101), 0.0);
+    EXPECT_EQ(rs.StudentT1(101).mark, Mark::unset);
     os.boxes.clear();
     std::filesystem::remove(folder.path("student.dat"));
     LoadStudent(rs, os);
