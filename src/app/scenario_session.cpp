@@ -39,6 +39,9 @@ Control& Session::control(const std::string& word) {
     }
     if (count == 1 && address.index < 0) return *only;
     if (count == 1 && address.index == 0 && only->index < 0 && only->kind == ControlKind::menu_entry) return *only;
+    // The entries without a number are the menu that they hang in.
+    if (count > 1 && address.index < 0 && only->kind == ControlKind::menu_entry && only->parent != nullptr)
+        return *only->parent;
     throw Wrong{(count == 0 ? "unknown control " : "no such element: ") + word};
 }
 
