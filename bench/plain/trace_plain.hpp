@@ -236,7 +236,7 @@ inline void compute_concentrations(RunState& rs) {
         for (int i = 1; i <= rs.nIso; ++i) {
             rs.BlkSpikes = 0;
             for (int t = rs.SelLow.val(); t <= rs.SelUpp.val(); ++t)
-                if (rs.Rej(i, t) != 1) rs.BlkSpikes += squared(rs.Sig2(i, t) - rs.AvCps(i));
+                if (rs.Rej(i, t) != 1) rs.BlkSpikes += squared(rs.Sig2(i, t) - rs.AvCps(i).number());
             rs.AccCpsSD(i) = std::sqrt(rs.BlkSpikes / (rs.nData(i) - 1));
             rs.AccCpsSE(i) = rs.AccCpsSD(i) / std::sqrt(rs.nData(i));
         }

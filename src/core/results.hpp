@@ -37,7 +37,8 @@ struct Results {
 
     // Concentrations: ppm, cps.
     int nIsoCalc = 0;
-    Table1<double> AvCps{MaxIso}, AvRawCps{MaxIso}, AccRatio{MaxIso};
+    Table1<Cell> AvCps{MaxIso}, AvRawCps{MaxIso};  // unset for a column without a blank
+    Table1<double> AccRatio{MaxIso};
     Table1<Cell> ConcMean{MaxIso}, ConcMedian{MaxIso}, ConcSD{MaxIso}, ConcSE{MaxIso}, RelErr{MaxIso};
     Table1<Value> LoD{MaxIso};
     Table2<Cell> ConcT{MaxIso, MaxSlices}, ErrT{MaxIso, MaxSlices};

@@ -178,7 +178,7 @@ bool WriteCpsTable(RunState& rs, Platform& os, const std::string& path) {
     };
     RecordWriter records;
     for (int i = 1; i <= rs.nIso; ++i) {
-        records.field(rs.IsoName(i)).field(rounded(rs.AvCps(i))).field(rounded(rs.AccCpsSE(i)));
+        records.field(rs.IsoName(i)).field(rounded(rs.AvCps(i).number())).field(rounded(rs.AccCpsSE(i)));
         records.end_record();
     }
     replace_file(os, path, records.bytes());

@@ -95,7 +95,7 @@ void spread_of_accepted(RunState& rs, const Interval& selection) {
     for (int i = 1; i <= rs.nIso; ++i) {
         const auto net = cells_of(std::as_const(rs.Sig2), i, selection);
         const auto rejected = cells_of(std::as_const(rs.Rej), i, selection);
-        const double mean = rs.AvCps(i);
+        const double mean = rs.AvCps(i).number();
         // A rejected datum adds nothing at all: the sum is the same to the last bit as one that passes over it.
         add_up(rs.BlkSpikes, net.size(), [=](std::size_t t) {
             const double away = net[t] - mean;

@@ -53,7 +53,9 @@ std::string ratios(const RunState& rs) {
         if (a == 0 || b == 0 || (kind != 0 && kind != 1 && kind != 2 && kind != 3)) continue;
         const bool raw_a = kind == 1 || kind == 3;
         const bool raw_b = kind == 2 || kind == 3;
-        const double ratio = quotient(raw_a ? rs.AvRawCps(a) : rs.AvCps(a), raw_b ? rs.AvRawCps(b) : rs.AvCps(b));
+        const Cell& above = raw_a ? rs.AvRawCps(a) : rs.AvCps(a);
+        const Cell& below = raw_b ? rs.AvRawCps(b) : rs.AvCps(b);
+        const double ratio = quotient(above.number(), below.number());
         out += rs.IsoName(a) + (raw_a ? "_NBC" : "") + "/" + rs.IsoName(b) + (raw_b ? "_NBC:" : ":") + tab;
         out += decimal(ratio) + tab;
     }
