@@ -53,9 +53,11 @@ inline void references(Bytes bytes) {
     }
     require(os.boxes <= 1);
     require(rs.nSTC <= MaxSTC && rs.nSTM <= MaxIso && rs.nBLK <= MaxIso && rs.nDWE <= MaxIso);
-    for (const Table1<double>* column : {&rs.STCcc, &rs.STCerr, &rs.STMcps, &rs.STMsd, &rs.BLKmean, &rs.BLKsd,
-                                         &rs.DWEms, &rs.GrubbsP10, &rs.GrubbsP1, &rs.StudentT1, &rs.StudentT6})
+    for (const Table1<double>* column :
+         {&rs.STCcc, &rs.STCerr, &rs.STMcps, &rs.STMsd, &rs.BLKmean, &rs.BLKsd, &rs.DWEms})
         for (int i = 1; i <= column->last(); ++i) require(std::isfinite((*column)(i)));
+    for (const Table1<Cell>* column : {&rs.GrubbsP10, &rs.GrubbsP1, &rs.StudentT1, &rs.StudentT6})
+        for (int i = 1; i <= column->last(); ++i) require(std::isfinite((*column)(i).val()));
 }
 
 }  // namespace kolvar::fuzz
