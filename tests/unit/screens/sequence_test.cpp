@@ -82,6 +82,22 @@ TEST_F(Walk, BeginsAtTheFirstLineWhenThereIsNoSampleAfterTheInterpolation) {
     EXPECT_EQ(form().lblPos.text, "1 of 2  (processed)");
 }
 
+TEST_F(Walk, AListWithoutAFileOfTheKindIsOfferedOnceAndThenTheMoveEndsAsAfterNo) {
+    write_day("0002/0002/0002/0002", {{"a.csv", true, measured_with_factors}, {"b.csv", true, measured_with_factors}});
+    go_to_day();
+    os.yes_or_no = {true, true, true};
+    next();
+    EXPECT_EQ(box_texts(), Names{last_sample});
+    EXPECT_EQ(rs().SeqPos, 3);
+    forget_boxes();
+    os.yes_or_no = {true, true, true};
+    previous();
+    EXPECT_EQ(box_texts(), Names{first_sample});
+    EXPECT_EQ(rs().SeqPos, 0);
+    EXPECT_EQ(file(), "a.csv");
+    EXPECT_TRUE(cannot_save());
+}
+
 TEST_F(Walk, StaysBeyondTheEndAfterNoAndTheWayBackStartsThere) {
     write_day("0005/0000/0002/0000", five());
     go_to_day();
