@@ -489,10 +489,8 @@ void start(Session& session, Words& words) {
     const int method = words.at_end() ? 0 : words.whole("a start value");
     words.finish();
     if (method != 0 && method != 1 && method != 3) throw Wrong{"the start values are 0, 1 and 3"};
-    session.desktop.reset();
-    session.program = std::make_unique<Program>(session.os, session.app_folder);
-    session.desktop = std::make_unique<Desktop>(*session.program);
-    session.end_told = false;
+    if (session.started) session.renew();
+    session.started = true;
     session.program->start(method);
     settle_windows();
 }

@@ -51,7 +51,6 @@ void expect_no_message(const Session& session) {
 void expect_ended(Session& session, Words& words) {
     const int status = words.at_end() ? 0 : words.whole("an exit status");
     words.finish();
-    if (!session.program) throw Wrong{"the program has not been started"};
     const std::string expected = "the program to have ended with status " + std::to_string(status);
     if (!session.program->ended()) throw Unmet{expected, "it runs"};
     session.end_told = true;

@@ -99,7 +99,7 @@ private:
             !prepare(session_, command, words))
             throw Wrong{"unknown command " + command};
         if (!session_.os.unanswered.empty()) throw Wrong{session_.os.unanswered};
-        if (watch_ && session_.program != nullptr) watch_(*session_.program, *session_.desktop);
+        if (watch_) watch_(*session_.program, *session_.desktop);
     }
 
     // At the end nothing is left over: no answer that nobody asked for, no message that nobody expected.

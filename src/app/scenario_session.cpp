@@ -9,8 +9,19 @@
 
 namespace kolvar::scenario {
 
+Session::Session(std::string folder, std::ostream& to_out, std::ostream& to_err)
+    : app_folder(std::move(folder)), out(to_out), err(to_err) {
+    renew();
+}
+
+void Session::renew() {
+    desktop.reset();
+    program = std::make_unique<Program>(os, app_folder);
+    desktop = std::make_unique<Desktop>(*program);
+    started = end_told = false;
+}
+
 Program& Session::running() {
-    if (!program) throw Wrong{"the program has not been started"};
     if (program->ended()) {
         if (end_told) throw Wrong{"the program has ended: only files, clipboard, messages and documents are left"};
         throw Unmet{"the program to run", "it has ended with status " + std::to_string(program->status())};

@@ -16,15 +16,17 @@ struct Session {
     std::string app_folder;
     std::ostream& out;
     std::ostream& err;
-    std::unique_ptr<Program> program;  // none before `start`
+    std::unique_ptr<Program> program;  // before `start` it has its windows, but none is shown
     std::unique_ptr<Desktop> desktop;  // goes before the program
+    bool started = false;
     bool end_told = false;             // the scenario has expected the end
     std::size_t boxes_told = 0;        // so many of the first boxes have been expected
 
-    Session(std::string folder, std::ostream& to_out, std::ostream& to_err)
-        : app_folder(std::move(folder)), out(to_out), err(to_err) {}
+    Session(std::string folder, std::ostream& to_out, std::ostream& to_err);
 
-    // The program that runs: Wrong before the start and after an expected end, Unmet after any other end.
+    // A new program with new windows, not started yet.
+    void renew();
+    // The program: Wrong after an expected end, Unmet after any other end.
     Program& running();
     // Wrong when there is no such window or control.
     Form& window(const std::string& name);
