@@ -31,18 +31,15 @@ bool goes_round(const RunState& rs, Platform& os, int step) {
 void move_in_list(Context& context, int step) {
     RunState& rs = context.rs;
     Frm2UP& form = context.forms.frm2_UP;
-    bool whole_round = false;
     do {
         rs.SeqPos += step;
         const bool left = step > 0 ? rs.SeqPos > rs.SeqCount : rs.SeqPos < 1;
         if (!left) continue;
-        // A list without a file of this kind has no first one: after a whole round nobody is asked for it again.
-        if (whole_round || !goes_round(rs, context.os, step)) {
+        if (!goes_round(rs, context.os, step)) {
             // The position stays beyond the end, where the next move starts from; no line is in work there.
             form.cmdSaveAnd(0).enabled = form.cmdSaveAnd(1).enabled = false;
             return;
         }
-        whole_round = true;
         rs.SeqPos = step > 0 ? 0 : rs.SeqCount + 1;
     } while (passed_over(rs, rs.SeqPos));
     // The data at hand are of the line before until the next file is there.

@@ -8,7 +8,7 @@ bool RandomPlatform::ask(const std::string& text, const std::string& title) {
     const bool scripted = !yes_or_no.empty();
     const bool yes = ScriptedPlatform::ask(text, title);
     if (scripted) return yes;
-    return choices_.one_in(3);
+    return choices_.below(3) == 1;  // the first choice is No: whoever has none left does not go round for ever
 }
 
 std::string RandomPlatform::open_file(const FileDialog& dialog) {

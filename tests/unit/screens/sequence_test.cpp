@@ -82,17 +82,17 @@ TEST_F(Walk, BeginsAtTheFirstLineWhenThereIsNoSampleAfterTheInterpolation) {
     EXPECT_EQ(form().lblPos.text, "1 of 2  (processed)");
 }
 
-TEST_F(Walk, AListWithoutAFileOfTheKindIsOfferedOnceAndThenTheMoveEndsAsAfterNo) {
+TEST_F(Walk, AListWithoutAFileOfTheKindIsOfferedRoundByRoundUntilNo) {
     write_day("0002/0002/0002/0002", {{"a.csv", true, measured_with_factors}, {"b.csv", true, measured_with_factors}});
     go_to_day();
-    os.yes_or_no = {true, true, true};
+    os.yes_or_no = {true, true, false};
     next();
-    EXPECT_EQ(box_texts(), Names{last_sample});
+    EXPECT_EQ(box_texts(), Names(3, last_sample));
     EXPECT_EQ(rs().SeqPos, 3);
     forget_boxes();
-    os.yes_or_no = {true, true, true};
+    os.yes_or_no = {true, false};
     previous();
-    EXPECT_EQ(box_texts(), Names{first_sample});
+    EXPECT_EQ(box_texts(), Names(2, first_sample));
     EXPECT_EQ(rs().SeqPos, 0);
     EXPECT_EQ(file(), "a.csv");
     EXPECT_TRUE(cannot_save());
