@@ -60,13 +60,24 @@ bool write_all(int fd, std::string_view bytes) {
     return true;
 }
 
+// Spreadsheet programs hold what they have open by a record lock, of which flock knows nothing. It is only asked for:
+// on a network drive both kinds are one, and a record lock of our own would stand against our own flock.
+bool held_by_another(int fd) {
+    struct flock asked {};
+    asked.l_type = F_WRLCK;
+    asked.l_whence = SEEK_SET;
+    return ::fcntl(fd, F_GETLK, &asked) == 0 && asked.l_type != F_UNLCK;
+}
+
 // Waits a moment for another program that writes the same file.
 bool locked(int fd) {
     constexpr int attempts = 200;
     constexpr useconds_t pause = 10000;
     for (int k = 0; k < attempts; ++k) {
-        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) return true;
-        if (errno != EWOULDBLOCK && errno != EINTR) return errno == ENOLCK || errno == EOPNOTSUPP;  // no locks here
+        if (!held_by_another(fd)) {
+            if (::flock(fd, LOCK_EX | LOCK_NB) == 0) return true;
+            if (errno != EWOULDBLOCK && errno != EINTR) return errno == ENOLCK || errno == EOPNOTSUPP;  // no locks here
+        }
         ::usleep(pause);
     }
     errno = EACCES;

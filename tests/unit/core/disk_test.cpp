@@ -231,6 +231,21 @@ TEST_F(Disk, AFileThatAnotherProgramKeepsLockedIsReportedAndLeftAlone) {
     EXPECT_EQ(folder.read("0_quick"), "one\r\ntwo\r\n");
 }
 
+// A spreadsheet that has the table open locks records, not the file; such a lock also stands within one program.
+TEST_F(Disk, AFileWhoseRecordsAnotherProgramKeepsLockedIsReportedAndLeftAlone) {
+    folder.write("0_quick", "one\r\n");
+    const int fd = ::open(folder.path("0_quick").c_str(), O_RDWR);
+    struct flock records {};
+    records.l_type = F_WRLCK;
+    records.l_whence = SEEK_SET;
+    ASSERT_EQ(::fcntl(fd, F_OFD_SETLK, &records), 0);
+    EXPECT_EQ(fault_of([&] { append_file(os, folder.path("0_quick"), "two\r\n"); }).kind, FaultKind::file_unwritable);
+    EXPECT_EQ(folder.read("0_quick"), "one\r\n");
+    ::close(fd);
+    append_file(os, folder.path("0_quick"), "two\r\n");
+    EXPECT_EQ(folder.read("0_quick"), "one\r\ntwo\r\n");
+}
+
 // Two programs on one master file: whoever looks finds one of the two files whole, at any moment.
 TEST_F(Disk, ProgramsThatReplaceOneFileAtOnceNeverMixTheirBytes) {
     constexpr int writers = 3;
