@@ -119,6 +119,11 @@ int ButtonView::heightForWidth(int width) const {
     return std::max(26, text.height() + room.height());
 }
 
+bool ButtonView::event(QEvent* event) {
+    if (focus_by_keys_ && event->type() == QEvent::Shortcut) setFocus(Qt::ShortcutFocusReason);
+    return QPushButton::event(event);
+}
+
 void ButtonView::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;

@@ -43,6 +43,8 @@ public:
     void set_caption(const QString& caption);
     // The widest line that the button asks room for, in logical pixels.
     void set_line_width(int width);
+    // Its keys bring the focus along, as the mouse does, so that the field which is left stores what was typed.
+    void take_focus_by_keys() { focus_by_keys_ = true; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -50,6 +52,7 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -57,6 +60,7 @@ private:
 
     QString caption_;
     int line_width_ = 330;
+    bool focus_by_keys_ = false;
 };
 
 // A check box that can be dragged by its name.

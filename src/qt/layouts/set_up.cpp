@@ -249,12 +249,7 @@ void put_together(FormWindow& window, DefaultsForm& f, std::initializer_list<QVB
     window.add_shortcut(f.cmdApply, "Alt+A");
     window.add_shortcut(f.cmdSaveAs, "Alt+S");
     window.add_shortcut(f.cmdCancel, "Alt+C");
-    // Also by its keys a button takes the focus first, so that the field which is left stores what was typed.
-    for (const Control* taking : {&f.cmdApply, &f.cmdSaveAs}) {
-        ButtonView* const pressed = &button(window, *taking);
-        QObject::connect(pressed, &QAbstractButton::pressed, pressed,
-                         [pressed] { pressed->setFocus(Qt::ShortcutFocusReason); });
-    }
+    for (const Control* taking : {&f.cmdApply, &f.cmdSaveAs}) button(window, *taking).take_focus_by_keys();
 }
 
 }  // namespace
