@@ -254,8 +254,6 @@ void activate_up_window(Context& context) {
     Frm2UP& form = context.forms.frm2_UP;
     if (rs.PlotOn == 1) form.pict1.canvas.Clear();
     if (rs.Method == 1 || rs.Method == 3) form.title = "Kolv-AGE  -  Selection of time slices and results on screen";
-    // The interpolation that was just accepted leads on to the samples.
-    if (rs.SeqPhase == 3) show_sequence(context);
 }
 
 void renew_up_window(Context& context) {

@@ -128,6 +128,22 @@ TEST_F(Strip, CountsTheSamplesFromTheNumberOfTheStandards) {
 }
 
 // Factors mean samples, whatever the counters say.
+TEST_F(Strip, StaysWithTheFileInWorkWhenAnotherWindowIsClosedBeyondTheEnd) {
+    write_day("0005/0002/0002/0002", five(measured_with_factors, factors));
+    go_to_day();
+    os.yes_or_no = {false};
+    previous();
+    ASSERT_EQ(rs().SeqPos, 0);
+    EXPECT_EQ(form().lblPos.text, "1 of 5");
+    click(form(), "cmdPlot");
+    click(forms().frm_drift, "cmdClose");
+    EXPECT_EQ(form().lblPos.text, "1 of 5");
+    click(form(), "cmdShowTab");
+    click(forms().frm_FileList, "cmdClose");
+    EXPECT_EQ(form().lblPos.text, "1 of 5");
+    EXPECT_EQ(rs().SeqPos, 0);
+}
+
 TEST_F(Strip, SamplesWithoutAllStandardsAreOnlyNumbered) {
     write_day("0005/0000/0002/0001", five(factors, factors));
     go_to_day();
