@@ -126,7 +126,7 @@ std::string rejection_text(const RunState& rs, const Frm2UP& form, const NumberT
 }
 
 std::string method_text(const RunState& rs, const NumberText& text) {
-    const std::string average = rs.setMean_UP.val() == 1 ? "median" : "mean";
+    std::string average = rs.setMean_UP.val() == 1 ? "median" : "mean";
     if (rs.setAver.val() != 1) return average;
     const bool lead_mean = rs.setPbAver.val() == 1;
     const double tzero = rs.setTzero.val();
@@ -282,8 +282,9 @@ void copy_selected_slices(Context& context) {
     const int upp = rs.SelUpp.val();
     std::string& out = rs.OutText;
     const auto line = [&](const std::string& words) { out += words + line_end; };
-    const auto slices = [&](const std::string& head, auto&& cell) {
-        out += head;
+    const auto slices = [&](std::string_view name, std::string_view blank, std::string_view title, auto&& cell) {
+        for (const std::string_view head : {name, std::string_view(tab), blank, std::string_view(tab), title})
+            out += head;
         for (int t = low; t <= upp; ++t) out += tab + cell(t);
         out += line_end;
     };
@@ -296,18 +297,17 @@ void copy_selected_slices(Context& context) {
     line("Data File:" + tab + rs.DataFileName);
     line("Blank time slices:" + tab + rs.BlkLow.text() + " to " + rs.BlkUpp.text());
     line("");
-    slices(tab + tab + "Time slices:", [](int t) { return std::to_string(t); });
-    slices("Isotopes" + tab + "Blank [cps]" + tab + "Outliers:",
-           [&](int t) { return std::string(rs.RejFlag(t) > 0 ? "rejected" : ""); });
+    slices("", "", "Time slices:", [](int t) { return std::to_string(t); });
+    slices("Isotopes", "Blank [cps]",
+           "Outliers:", [&](int t) { return std::string(rs.RejFlag(t) > 0 ? "rejected" : ""); });
     // The first column of the table is the time.
     for (int i = 2; i <= rs.nIso; ++i)
-        slices(rs.IsoName(i) + tab + Format(rs.BlkMean(i), "0") + tab,
-               [&](int t) { return Format(rs.Sig2(i, t), "0"); });
+        slices(rs.IsoName(i), Format(rs.BlkMean(i), "0"), "", [&](int t) { return Format(rs.Sig2(i, t), "0"); });
     line("ISOTOPE RATIOS");
     constexpr std::array<const char*, ratio_count> names = {"Pb206/U238", "Pb207/U235", "Pb208/Th232", "U238/Th232",
                                                             "Pb207/Pb206"};
     for (std::size_t k = 0; k < names.size(); ++k)
-        slices(names[k] + tab + tab, [&](int t) { return text.four_decimals((rs.*ratio_fields()[k].slices)(t)); });
+        slices(names[k], "", "", [&](int t) { return text.four_decimals((rs.*ratio_fields()[k].slices)(t)); });
     context.os.set_clipboard("");
     context.os.set_clipboard(out);
 }
