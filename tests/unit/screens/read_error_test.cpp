@@ -11,6 +11,7 @@
 #include "settings/default_file.hpp"
 #include "settings/settings_file.hpp"
 #include "support/failing_read.hpp"
+#include "unit/screens/start_texts.hpp"
 #include "unit/screens/walk_fixture.hpp"
 
 namespace kolvar::test {
@@ -28,20 +29,6 @@ std::string named_in_settings_text(const std::string& path, const std::string& w
     return "Error occurred while trying to load file: " + path + ".\n\nProbably the path or the file name of the " +
            what + " in the Settings is not correct.\n\nOpen Settings, browse and select an existing " + ending +
            " file and save the settings. At the next start Kolv will find it.";
-}
-std::string settings_text(const std::string& path) {
-    return "Error occurred while trying to load file: " + path +
-           "\n\nSpecify the path using the menu of 'File Selection' window: [Settings] / [Specify the path to the "
-           "StartKit directory].";
-}
-std::string table_text(const std::string& name) {
-    return "Error occurred while trying to load file: '" + name +
-           "'\nThis statistical table must be in the directory where the EXE file is placed.";
-}
-std::string start_path_text(const std::string& name) {
-    return "Error occurred while trying to load file: '" + name +
-           "' \nThis file contains the path to the necessary start kit of Kolvar and must be in the work directory of "
-           "the EXE program.";
 }
 std::string run_time_text(const std::string& procedure, const std::string& path) {
     return "Run-time error: file can't be read, in " + procedure + "\n" + path;

@@ -4,6 +4,7 @@
 
 #include "screens/start_paths.hpp"
 #include "unit/screens/program_fixture.hpp"
+#include "unit/screens/start_texts.hpp"
 
 namespace kolvar::test {
 namespace {
@@ -12,22 +13,6 @@ using StartUp = ProgramOnKit;
 
 const std::string slash(1, static_cast<char>(std::filesystem::path::preferred_separator));
 
-std::string table_text(const std::string& name) {
-    return "Error occurred while trying to load file: '" + name +
-           "'\nThis statistical table must be in the directory where the EXE file is placed.";
-}
-std::string start_path_text(const std::string& name) {
-    return "Error occurred while trying to load file: '" + name +
-           "' \nThis file contains the path to the necessary start kit of Kolvar and must be in the work directory of "
-           "the "
-           "EXE program.";
-}
-std::string settings_text(const std::string& path) {
-    return "Error occurred while trying to load file: " + path +
-           "\n\nSpecify the path using the menu of 'File Selection' window: [Settings] / [Specify the path to the "
-           "StartKit "
-           "directory].";
-}
 std::string dwell_text(const std::string& path) {
     return "Error occurred while trying to load file: " + path +
            ".\n\nProbably the path or the file name of the Dwell file in the Settings is not correct.\n\nOpen "
